@@ -1,0 +1,58 @@
+#include "translation.h"
+
+#include "value_text.h"
+
+namespace {
+constexpr qsizetype kMaximumParameters = 21;
+constexpr qint32 kEnglish = 1;
+
+// Length of the placeholder that starts at position, 0 if none does there; number gets its number.
+qsizetype placeholderAt(const QString &text, qsizetype position, int &number) {
+    qsizetype i = position + 1;
+    while (i < text.size() && text[i].isDigit())
+        ++i;
+    const bool complete =
+        i > position + 1 && i + 1 < text.size() && text[i] == u':' && (text[i + 1] == u'S' || text[i + 1] == u's');
+    if (!complete)
+        return 0;
+    number = text.mid(position + 1, i - position - 1).toInt();
+    return i + 2 - position;
+}
+} // namespace
+
+QString Translation::NLSStr(const QString &text) const {
+    return gLanguage <= kEnglish ? text : mDictionary.Translate(gLanguage, text);
+}
+
+void Translation::NLSArray(QStringList &texts) const {
+    if (gLanguage <= kEnglish)
+        return;
+    for (QString &text : texts) {
+        if (text != ValueText::undefined())
+            text = NLSStr(text);
+    }
+}
+
+QString Translation::NLSFmt(const QString &text, const QString &parameters) const {
+    if (parameters.isEmpty() && gLanguage <= kEnglish)
+        return text;
+    QStringList parts = parameters.split(u'|').first(qMin(parameters.count(u'|') + 1, kMaximumParameters));
+    for (QString &part : parts)
+        part = NLSStr(part);
+    return Fill(NLSStr(text), parts);
+}
+
+QString Translation::Fill(const QString &text, const QStringList &parameters) {
+    QString result;
+    for (qsizetype i = 0; i < text.size();) {
+        int number = 0;
+        const qsizetype length = text[i] == u'%' ? placeholderAt(text, i, number) : 0;
+        if (length == 0) {
+            result += text[i++];
+            continue;
+        }
+        result += parameters.value(number);
+        i += length;
+    }
+    return result;
+}
