@@ -75,6 +75,12 @@ class Q_DECL_EXPORT FieldEvent {
         return unpackAt<Types...>(std::index_sequence_for<Types...>{});
     }
 
+    // One parameter alone, with the same errors.
+    template <class T>
+    [[nodiscard]] T parameter(std::size_t position) const {
+        return parameterAt(position).template get<T>();
+    }
+
   private:
     template <class... Types, std::size_t... Positions>
     [[nodiscard]] std::tuple<Types...> unpackAt(std::index_sequence<Positions...> /*positions*/) const {

@@ -1,0 +1,26 @@
+#include "change.h"
+
+#include <ranges>
+
+namespace {
+
+struct Inverter {
+    Change operator()(const ValueStep &step) const {
+        return ValueStep{step.field, step.record, step.after, step.before};
+    }
+    Change operator()(const InsertStep &step) const { return RemoveStep{step.structure, step.record, step.image}; }
+    Change operator()(const RemoveStep &step) const { return InsertStep{step.structure, step.record, step.image}; }
+    Change operator()(const MoveStep &step) const { return MoveStep{step.structure, step.parent, step.to, step.from}; }
+};
+
+} // namespace
+
+Change inverse(const Change &change) { return std::visit(Inverter(), change); }
+
+Changes inverse(const Changes &changes) {
+    Changes result;
+    result.reserve(changes.size());
+    for (const Change &change : changes | std::views::reverse)
+        result.push_back(inverse(change));
+    return result;
+}

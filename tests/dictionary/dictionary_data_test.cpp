@@ -1,0 +1,147 @@
+#include "dictionary_loader.h"
+#include "run_time_error.h"
+
+#include <QRegularExpression>
+#include <QSet>
+#include <QTest>
+
+// Rules that the compiled-in dictionary must keep beyond what the loader refuses.
+class DictionaryDataTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void initTestCase();
+    void everyFieldLoads();
+    void helpSaysMoreThanTheLabel();
+    void noTwoHelpTextsAreEqual();
+    void gridsAndPositionsResolve();
+    void everyTreeFormHasACaptionAndChildrenAHead();
+    void everyStoredFieldOfATierHasItsPlaceInTheRadio();
+    void recordsOfAllTiersLieApartInTheImage();
+    void defaultsBelongToEachTier();
+
+  private:
+    std::unique_ptr<const Dictionary> mDictionary;
+};
+
+namespace {
+
+constexpr qsizetype kFewestHelpWords = 8;
+
+QStringList wordsOf(const QString &text) {
+    static const QRegularExpression separator(QStringLiteral("[^\\w]+"));
+    return text.toLower().split(separator, Qt::SkipEmptyParts);
+}
+
+// Numbered instances of one setting ("Function Key 1" to "4") may share their help but for the digits.
+QString withoutDigits(QString text) {
+    static const QRegularExpression digits(QStringLiteral("\\d"));
+    return text.remove(digits);
+}
+
+} // namespace
+
+void DictionaryDataTest::initTestCase() {
+    try {
+        mDictionary = DictionaryLoader::loadCompiledIn();
+    } catch (const RunTimeError &error) {
+        QFAIL(qPrintable(error.Description));
+    }
+}
+
+void DictionaryDataTest::everyFieldLoads() {
+    QVERIFY(mDictionary->fields().size() > 150);
+    QVERIFY(mDictionary->find(QStringLiteral("RxFreq_q7r")) != nullptr);
+}
+
+void DictionaryDataTest::helpSaysMoreThanTheLabel() {
+    for (const FieldDefinition &field : mDictionary->fields()) {
+        if (field.hidden)
+            continue;
+        const QStringList help = wordsOf(field.help);
+        QVERIFY2(help.size() >= kFewestHelpWords, qPrintable(field.id));
+        const QStringList labelWords = wordsOf(field.label);
+        const QSet<QString> label(labelWords.begin(), labelWords.end());
+        const auto news = std::ranges::count_if(help, [&](const QString &word) { return !label.contains(word); });
+        QVERIFY2(news >= kFewestHelpWords / 2, qPrintable(field.id));
+    }
+}
+
+void DictionaryDataTest::noTwoHelpTextsAreEqual() {
+    QHash<QString, QString> seen;
+    for (const FieldDefinition &field : mDictionary->fields()) {
+        if (field.hidden)
+            continue;
+        const QString other = seen.value(field.help);
+        const bool instances = !other.isEmpty() && withoutDigits(other) == withoutDigits(field.id);
+        QVERIFY2(other.isEmpty() || instances, qPrintable(field.id + QStringLiteral(" and ") + other));
+        seen.insert(field.help, field.id);
+    }
+}
+
+void DictionaryDataTest::gridsAndPositionsResolve() {
+    for (const RecordStructure &structure : mDictionary->structures()) {
+        for (const QString &grid : structure.grids)
+            QCOMPARE(mDictionary->structureOf(grid), structure.index);
+        if (!structure.position.isEmpty()) {
+            QCOMPARE(mDictionary->structureByPosition(structure.position), structure.index);
+            QVERIFY2(!structure.navigatorLabel.isEmpty(), qPrintable(structure.name));
+            QVERIFY2(!structure.navigatorRecords.isEmpty(), qPrintable(structure.name));
+        }
+    }
+}
+
+void DictionaryDataTest::everyTreeFormHasACaptionAndChildrenAHead() {
+    for (qint32 place = 0; place < qint32(mDictionary->tiers().size()); ++place) {
+        const std::vector<TreeEntry> tree = mDictionary->tree(TierIndex(place));
+        QVERIFY(!tree.empty());
+        QVERIFY2(!tree.front().isChild, "a child without a head");
+        QSet<QString> captions;
+        for (std::size_t i = 0; i < tree.size(); ++i) {
+            QVERIFY2(!tree[i].caption.isEmpty() && !captions.contains(tree[i].caption), qPrintable(tree[i].form));
+            captions.insert(tree[i].caption);
+            const bool hasChild = i + 1 < tree.size() && tree[i + 1].isChild;
+            QVERIFY2(!tree[i].isGroup || hasChild, qPrintable(tree[i].form));
+        }
+    }
+}
+
+void DictionaryDataTest::everyStoredFieldOfATierHasItsPlaceInTheRadio() {
+    // Serial number and band travel in the radio's identity.
+    for (const FieldDefinition &field : mDictionary->fields())
+        QVERIFY2(!field.isStored() || field.fact || field.at.has_value(), qPrintable(field.id));
+}
+
+void DictionaryDataTest::recordsOfAllTiersLieApartInTheImage() {
+    const MemoryLayout &layout = mDictionary->layout();
+    for (qint32 place = 0; place < qint32(mDictionary->tiers().size()); ++place) {
+        const TierIndex tier(place);
+        qint32 end = 0;
+        for (const RecordStructure &structure : mDictionary->structures()) {
+            const qint32 tables = structure.isScoped() ? mDictionary->structure(structure.parent).in(tier).most : 1;
+            for (qint32 table = 1; table <= tables; ++table) {
+                const RecordAddress last{structure.isScoped() ? table : 0, structure.in(tier).most};
+                QCOMPARE(layout.countOffset(tier, structure.index, last.parent), end);
+                QCOMPARE(layout.recordOffset(tier, structure.index, {last.parent, 1}), end + MemoryLayout::kCountBytes);
+                end += MemoryLayout::kCountBytes + structure.in(tier).most * structure.recordBytes;
+            }
+        }
+        QCOMPARE(layout.imageSize(tier), end);
+    }
+}
+
+void DictionaryDataTest::defaultsBelongToEachTier() {
+    for (const FieldDefinition &field : mDictionary->fields()) {
+        if (!field.hasItems())
+            continue;
+        const ListItem *item = field.itemByValue(field.defaultNumber);
+        for (qint32 place = 0; place < qint32(mDictionary->tiers().size()); ++place) {
+            const TierIndex tier(place);
+            const bool fits = !field.tiers.contains(tier) || (item->tiers.contains(tier) && item->level <= 1);
+            QVERIFY2(fits, qPrintable(field.id + QStringLiteral(": the default is not an item of every tier")));
+        }
+    }
+}
+
+QTEST_GUILESS_MAIN(DictionaryDataTest)
+#include "dictionary_data_test.moc"

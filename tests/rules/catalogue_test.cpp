@@ -1,0 +1,238 @@
+#include "dictionary_loader.h"
+#include "field_defaults.h"
+#include "final_checks.h"
+#include "item_lists.h"
+#include "named_functions.h"
+#include "record_editor.h"
+#include "record_positions.h"
+#include "rule_evaluator.h"
+#include "value_codec.h"
+#include "value_validator.h"
+
+#include <QTest>
+
+// The whole compiled-in catalogue through model and rules: a fault of one field's data shows here by its id.
+class CatalogueTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void initTestCase();
+    void everyNamedFunctionExists();
+    void defaultsPassTheFinalChecks_data() { tiers(); }
+    void defaultsPassTheFinalChecks();
+    void bothLimitsAreTakenAndTheirNeighboursRefused_data() { tiers(); }
+    void bothLimitsAreTakenAndTheirNeighboursRefused();
+    void everyOfferedItemGoesInAndComesOut_data() { tiers(); }
+    void everyOfferedItemGoesInAndComesOut();
+    void everyValueSurvivesItsShownForm_data() { tiers(); }
+    void everyValueSurvivesItsShownForm();
+    void crossChecksFindTheirFault_data();
+    void crossChecksFindTheirFault();
+    void aPositionStaysWithItsRecord();
+
+  private:
+    void tiers();
+    // One record at least of everything that the tier can have.
+    [[nodiscard]] TierData filled(TierIndex tier) const;
+    void checkLimits(const TierData &data, const FieldDefinition &field, RecordAddress record) const;
+
+    std::unique_ptr<const Dictionary> mDictionary;
+};
+
+namespace {
+
+std::optional<ValueFault::Kind> faultOf(const ValueResult &result) {
+    const auto *fault = std::get_if<ValueFault>(&result);
+    return fault == nullptr ? std::nullopt : std::optional(fault->kind);
+}
+
+} // namespace
+
+void CatalogueTest::initTestCase() { mDictionary = DictionaryLoader::loadCompiledIn(); }
+
+void CatalogueTest::tiers() {
+    QTest::addColumn<qint32>("tier");
+    for (qint32 place = 0; place < qint32(mDictionary->tiers().size()); ++place)
+        QTest::newRow(qPrintable(mDictionary->tier(TierIndex(place)).key)) << place;
+}
+
+TierData CatalogueTest::filled(TierIndex tier) const {
+    TierData data(*mDictionary, tier);
+    RecordEditor editor(data);
+    for (const RecordStructure &structure : mDictionary->structures()) {
+        const qint32 parent = structure.isScoped() ? 1 : 0;
+        for (qint32 number = data.recordCount(structure.index, parent); number < 2; ++number)
+            (void)editor.insertRecord(structure.index, {parent, number + 1});
+    }
+    return data;
+}
+
+void CatalogueTest::everyNamedFunctionExists() {
+    for (const FieldDefinition &field : mDictionary->fields()) {
+        QVERIFY2(field.scope.isEmpty() || NamedFunctions::scopeNames().contains(field.scope), qPrintable(field.id));
+        QVERIFY2(field.kind != FieldKind::Derived || NamedFunctions::derivedNames().contains(field.function),
+                 qPrintable(field.id));
+    }
+}
+
+void CatalogueTest::defaultsPassTheFinalChecks() {
+    QFETCH(qint32, tier);
+    const TierData data(*mDictionary, TierIndex(tier));
+    for (const Finding &finding : FinalChecks(data).run())
+        QVERIFY2(false, qPrintable(mDictionary->field(finding.field).id + QLatin1Char(' ') + finding.message.text()));
+}
+
+void CatalogueTest::checkLimits(const TierData &data, const FieldDefinition &field, RecordAddress record) const {
+    const ValueValidator validator(data);
+    const NumberLimits limits = FieldReader(data).limits(field.index, record);
+    const qint32 step = limits.rasters.empty() ? limits.step : limits.rasters.front();
+    const auto fault = [&](qint64 stored) {
+        const bool negative = stored < 0;
+        const QString digits = QString::number(negative ? -stored : stored).rightJustified(field.decimals + 1, u'0');
+        QString text = (negative ? QStringLiteral("-") : QString()) + digits;
+        if (field.decimals > 0)
+            text.insert(text.size() - field.decimals, u'.');
+        return faultOf(validator.fromShown(field.index, record, text));
+    };
+    QVERIFY2(!fault(limits.minimum), qPrintable(field.id));
+    QVERIFY2(!fault(limits.maximum), qPrintable(field.id));
+    QVERIFY2(fault(qint64(limits.minimum) - step) == ValueFault::Kind::OutOfRange, qPrintable(field.id));
+    QVERIFY2(fault(qint64(limits.maximum) + step) == ValueFault::Kind::OutOfRange, qPrintable(field.id));
+    if (step > 1)
+        QVERIFY2(fault(limits.minimum + 1) == ValueFault::Kind::OffRaster, qPrintable(field.id));
+    const QString tooFine = ValueCodec::shownNumber(limits.minimum, field.decimals) +
+                            (field.decimals == 0 ? QStringLiteral(".5") : QStringLiteral("5"));
+    const auto fine = faultOf(validator.fromShown(field.index, record, tooFine));
+    QVERIFY2(fine.has_value(), qPrintable(field.id));
+}
+
+void CatalogueTest::bothLimitsAreTakenAndTheirNeighboursRefused() {
+    QFETCH(qint32, tier);
+    const TierData data = filled(TierIndex(tier));
+    int checked = 0;
+    for (const FieldDefinition &field : mDictionary->fields()) {
+        if (field.kind != FieldKind::Number || !field.tiers.contains(TierIndex(tier)))
+            continue;
+        checkLimits(data, field, data.records(field.structure).front());
+        ++checked;
+    }
+    QVERIFY(checked > 30);
+}
+
+void CatalogueTest::everyOfferedItemGoesInAndComesOut() {
+    QFETCH(qint32, tier);
+    const TierData data = filled(TierIndex(tier));
+    for (const FieldDefinition &field : mDictionary->fields()) {
+        if (!field.tiers.contains(TierIndex(tier)) || (!field.hasItems() && field.kind != FieldKind::Reference))
+            continue;
+        const RecordAddress record = data.records(field.structure).back();
+        const std::vector<FieldItem> items = ItemLists(data).items(field.index, record);
+        QVERIFY2(!items.empty(), qPrintable(field.id));
+        for (const FieldItem &item : items) {
+            const QVariant given = field.kind == FieldKind::List ? QVariant(item.value) : QVariant(item.text);
+            const ValueResult taken = ValueValidator(data).fromBoundary(field.index, record, given);
+            QVERIFY2(!faultOf(taken), qPrintable(field.id + QLatin1Char(' ') + item.text));
+            QCOMPARE(std::get<StoredValue>(taken).number(), item.value);
+            QCOMPARE(ValueCodec::boundary(field, item.value), given);
+        }
+    }
+}
+
+void CatalogueTest::everyValueSurvivesItsShownForm() {
+    QFETCH(qint32, tier);
+    const TierData data = filled(TierIndex(tier));
+    const FieldReader reader(data);
+    for (const FieldDefinition &field : mDictionary->fields()) {
+        if (!field.tiers.contains(TierIndex(tier)))
+            continue;
+        for (const RecordAddress record : data.records(field.structure)) {
+            const std::optional<StoredValue> value = reader.value(field.index, record);
+            QVERIFY2(value.has_value(), qPrintable(field.id));
+            QVERIFY2(reader.shown(field.index, record).size() <= field.width || field.isTextual(),
+                     qPrintable(field.id));
+            if (!field.isStored())
+                continue;
+            const NumberLimits limits = reader.limits(field.index, record);
+            const ValueResult back = ValueCodec::parseShown(field, ValueCodec::shown(field, *value), limits);
+            QVERIFY2(!faultOf(back) && std::get<StoredValue>(back) == *value, qPrintable(field.id));
+        }
+    }
+}
+
+void CatalogueTest::crossChecksFindTheirFault_data() {
+    QTest::addColumn<QString>("sets"); // UIID(record)=stored, joined by blanks
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<bool>("error");
+    const auto row = [](const char *name, const char *sets, const char *field, bool error) {
+        QTest::newRow(name) << QString::fromLatin1(sets) << QString::fromLatin1(field) << error;
+    };
+    row("wide channel under compliance", "ChannelBandwidth_q7r(0.1)=250", "ChannelBandwidth_q7r", true);
+    row("channel twice in a group", "FilteredScanGroupChannelMemberID(1.1)=1 FilteredScanGroupChannelMemberID(1.2)=1",
+        "FilteredScanGroupChannelMemberID", true);
+    row("member without a channel", "FilteredScanGroupChannelMemberID(1.1)=1", "FilteredScanGroupChannelMemberID",
+        false);
+    row("vote group without members", "GroupType_q7r(0.2)=1", "GroupType_q7r", true);
+    row("empty group", "GroupType_q7r(0.2)=0", "GroupType_q7r", false);
+    row("signalling without a system", "SignallingType(0.1)=1", "NetworkSignallingID", true);
+    row("start-up channel that is None", "PowerOnMode(0.0)=1", "ChannelGroupIDForRadioStartup", true);
+    row("identification without a text", "CWIDEnabled(0.1)=1", "CWIDString", true);
+    row("transmitter without protection", "VSWRFoldbackOverride(0.0)=1", "VSWRFoldbackOverride", false);
+    row("frequencies of another band", "Band_q7r(0.0)=3", "RxFreq_q7r", true);
+    row("priority channel that is no member",
+        "PriorityScan_q7r(0.1)=1 Priority1Channel_q7r(0.1)=2 FilteredScanGroupChannelMemberID(1.1)=1",
+        "Priority1Channel_q7r", true);
+    row("identity twice", "ChannelID_q7r(0.2)=1", "ChannelID_q7r", true);
+}
+
+void CatalogueTest::crossChecksFindTheirFault() {
+    QFETCH(QString, sets);
+    QFETCH(QString, field);
+    QFETCH(bool, error);
+    TierData data = filled(TierIndex(1));
+    for (const QString &set : sets.split(QLatin1Char(' '))) {
+        const QString id = set.section(QLatin1Char('('), 0, 0);
+        const QStringList address =
+            set.section(QLatin1Char('('), 1).section(QLatin1Char(')'), 0, 0).split(QLatin1Char('.'));
+        data.setValue(mDictionary->indexOf(id), {address[0].toInt(), address[1].toInt()},
+                      set.section(QLatin1Char('='), 1).toInt());
+    }
+    const std::vector<Finding> findings = FinalChecks(data).run();
+    const bool found = std::ranges::any_of(findings, [&](const Finding &finding) {
+        return mDictionary->field(finding.field).id == field &&
+               (finding.severity == Finding::Severity::Error) == error && !finding.message.text().contains(u'%');
+    });
+    QVERIFY(found);
+    const QString form = mDictionary->find(field)->form;
+    QVERIFY(!FinalChecks(data).run(form).empty());
+}
+
+void CatalogueTest::aPositionStaysWithItsRecord() {
+    TierData data(*mDictionary, TierIndex(1));
+    RecordEditor editor(data);
+    const StructureIndex system = *mDictionary->structureByName(QStringLiteral("SelcallSystem"));
+    const StructureIndex sequence = *mDictionary->structureByName(QStringLiteral("FreeFormatSequence"));
+    RecordPositions positions(data);
+    QCOMPARE(positions.position(system), 0);
+    QVERIFY(!positions.setPosition(data, system, 1));
+    positions.follow(data, editor.insertRecord(system, {0, 1}).changes);
+    QCOMPARE(positions.position(system), 1);
+    positions.follow(data, editor.insertRecord(system, {0, 2}).changes);
+    QVERIFY(positions.setPosition(data, system, 2));
+    QVERIFY(positions.setPosition(data, sequence, 9)); // second of system 2
+    QVERIFY(!positions.setPosition(data, sequence, 15));
+    positions.follow(data, editor.insertRecord(system, {0, 1}).changes);
+    QCOMPARE(positions.position(system), 3);
+    QCOMPARE(positions.position(sequence), 16);
+    positions.follow(data, editor.moveRecord(system, 0, 3, 1).changes);
+    QCOMPARE(positions.position(system), 1);
+    QCOMPARE(positions.position(sequence), 2);
+    QCOMPARE(positions.address(*mDictionary, *mDictionary->structureByName(QStringLiteral("TxCallBurst")), 4),
+             (RecordAddress{1, 4}));
+    for (int left = 3; left > 0; --left)
+        positions.follow(data, editor.deleteRecord(system, {0, left}).changes);
+    QCOMPARE(positions.position(system), 0);
+    QCOMPARE(positions.position(sequence), 0);
+}
+
+QTEST_GUILESS_MAIN(CatalogueTest)
+#include "catalogue_test.moc"
