@@ -1,0 +1,196 @@
+#include "port_access.h"
+#include "serial_ports.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <fcntl.h>
+#include <signal.h>
+#include <stdlib.h>
+#include <sys/file.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace {
+// A pseudo-terminal; its far end is a port that can be opened.
+struct Pty {
+    Pty() : master(::posix_openpt(O_RDWR | O_NOCTTY)) {
+        ::grantpt(master);
+        ::unlockpt(master);
+        device = QString::fromLocal8Bit(::ptsname(master));
+    }
+    ~Pty() { ::close(master); }
+    Pty(const Pty &) = delete;
+    Pty &operator=(const Pty &) = delete;
+
+    int master;
+    QString device;
+};
+} // namespace
+
+class PortsTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init() { QVERIFY(mClass.isValid()); }
+    void phantomPortsAreLeftOutAndNumbersAscend();
+    void replacementListTakesOnlyWholeParts_data();
+    void replacementListTakesOnlyWholeParts();
+    void portTextsFindTheirDevice_data();
+    void portTextsFindTheirDevice();
+    void aLockedPortIsBusyAndFreeAgainAfterwards();
+    void holderOfAPortIsFound();
+    void whatIsNoPortIsNotAvailable_data();
+    void whatIsNoPortIsNotAvailable();
+
+  private:
+    void addTty(const QString &name, const QByteArray &type) const {
+        QVERIFY(QDir(mClass.path()).mkpath(name));
+        if (type.isEmpty())
+            return;
+        QFile file(mClass.filePath(name + QStringLiteral("/type")));
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write(type);
+    }
+
+    QTemporaryDir mClass;
+};
+
+void PortsTest::phantomPortsAreLeftOutAndNumbersAscend() {
+    addTty(QStringLiteral("ttyACM1"), {});
+    addTty(QStringLiteral("ttyUSB0"), {});
+    addTty(QStringLiteral("ttyUSB10"), {});
+    addTty(QStringLiteral("ttyS0"), "4\n");
+    addTty(QStringLiteral("ttyS1"), "0\n"); // no chip
+    addTty(QStringLiteral("ttyS2"), {});    // no type file
+    addTty(QStringLiteral("ttyS10"), "16\n");
+    addTty(QStringLiteral("ttySAC0"), "4\n"); // another family
+    addTty(QStringLiteral("ttyUSB"), {});
+    addTty(QStringLiteral("ttyUSB007"), {}); // would collide with ttyUSB7
+    addTty(QStringLiteral("tty1"), {});
+    const SerialPorts ports(mClass.path(), QStringLiteral("/dev"), QString());
+    QCOMPARE(ports.GetAvailableComPorts(), QStringLiteral("|1:|11:|101:|111:|202:|"));
+    QCOMPARE(ports.List().back().device, QStringLiteral("/dev/ttyACM1"));
+    QCOMPARE(SerialPorts(QStringLiteral("/nowhere"), QStringLiteral("/dev"), QString()).GetAvailableComPorts(),
+             QStringLiteral("|"));
+}
+
+void PortsTest::replacementListTakesOnlyWholeParts_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("bars");
+    QTest::addColumn<QString>("firstDevice");
+    QTest::addColumn<QString>("firstName");
+    QTest::newRow("named") << "1=/x/radio=Simulated radio"
+                           << "|1:|"
+                           << "/x/radio"
+                           << "Simulated radio";
+    QTest::newRow("name with =") << "7=/x=a=b"
+                                 << "|7:|"
+                                 << "/x"
+                                 << "a=b";
+    QTest::newRow("sorted by number, not by place") << "12=/b|2=/a"
+                                                    << "|2:|12:|"
+                                                    << "/a"
+                                                    << "";
+    QTest::newRow("faulty parts passed over") << "0=/z|x=/y|3|4=|5=/ok"
+                                              << "|5:|"
+                                              << "/ok"
+                                              << "";
+}
+
+void PortsTest::replacementListTakesOnlyWholeParts() {
+    QFETCH(QString, text);
+    addTty(QStringLiteral("ttyUSB0"), {});
+    const SerialPorts ports(mClass.path(), QStringLiteral("/dev"), text);
+    QTEST(ports.GetAvailableComPorts(), "bars");
+    QTEST(ports.List().front().device, "firstDevice");
+    QTEST(ports.List().front().name, "firstName");
+    QVERIFY2(!ports.DeviceOf(QStringLiteral("COM101")), "the machine's ports must not shine through");
+}
+
+void PortsTest::portTextsFindTheirDevice_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("device"); // "" : refused
+    QTest::newRow("number") << "1"
+                            << "/dev/ttyS0";
+    QTest::newRow("COM name, any case") << "com102"
+                                        << "/dev/ttyUSB1";
+    QTest::newRow("with colon") << "COM201:"
+                                << "/dev/ttyACM0";
+    QTest::newRow("last ttyS number") << "COM100"
+                                      << "/dev/ttyS99";
+    QTest::newRow("path") << "/dev/ttyS7"
+                          << "/dev/ttyS7";
+    QTest::newRow("relative path") << "./radio"
+                                   << "./radio";
+    QTest::newRow("zero") << "COM0"
+                          << "";
+    QTest::newRow("empty") << ""
+                           << "";
+    QTest::newRow("word") << "COMX"
+                          << "";
+    QTest::newRow("sign") << "COM-1"
+                          << "";
+    QTest::newRow("overflow") << "COM99999999999"
+                              << "";
+}
+
+void PortsTest::portTextsFindTheirDevice() {
+    QFETCH(QString, text);
+    const SerialPorts ports(QStringLiteral("/nowhere"), QStringLiteral("/dev"), QString());
+    QTEST(ports.DeviceOf(text).value_or(QString()), "device");
+}
+
+void PortsTest::aLockedPortIsBusyAndFreeAgainAfterwards() {
+    const Pty pty;
+    const SerialPorts ports(mClass.path(), QStringLiteral("/dev"), QStringLiteral("9=") + pty.device);
+    QVERIFY(ports.IsComPortAvailable(9));
+    PortLock lock;
+    QVERIFY(lock.take(pty.device));
+    QCOMPARE(PortAccess::probe(pty.device), PortState::Busy);
+    QVERIFY(!ports.IsComPortAvailable(9));
+    PortLock second;
+    QVERIFY(!second.take(pty.device));
+    lock.release();
+    QCOMPARE(PortAccess::probe(pty.device), PortState::Available);
+    QVERIFY(ports.IsComPortAvailable(9));
+}
+
+void PortsTest::holderOfAPortIsFound() {
+    const Pty pty;
+    int ready[2];
+    QCOMPARE(::pipe(ready), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const int held = ::open(pty.device.toLocal8Bit().constData(), O_RDWR | O_NOCTTY);
+        const char mark = held < 0 ? 'n' : 'y';
+        if (::write(ready[1], &mark, 1) != 1)
+            ::_exit(1);
+        ::pause();
+        ::_exit(0);
+    }
+    char mark = 0;
+    QCOMPARE(::read(ready[0], &mark, 1), ssize_t(1));
+    const QStringList holders = PortAccess::holders(pty.device);
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    QCOMPARE(mark, 'y');
+    QCOMPARE(holders.size(), 1);
+    QVERIFY2(holders.front().contains(QString::number(child)), qPrintable(holders.front()));
+}
+
+void PortsTest::whatIsNoPortIsNotAvailable_data() {
+    QTest::addColumn<QString>("device");
+    QTest::addColumn<int>("state");
+    QTest::newRow("missing") << "/dev/no-such-port" << int(PortState::Missing);
+    QTest::newRow("not a terminal") << "/dev/null" << int(PortState::NotWorking);
+}
+
+void PortsTest::whatIsNoPortIsNotAvailable() {
+    QFETCH(QString, device);
+    QTEST(int(PortAccess::probe(device)), "state");
+}
+
+QTEST_GUILESS_MAIN(PortsTest)
+#include "ports_test.moc"
