@@ -1,0 +1,338 @@
+#include "component_listener.h"
+#include "currency.h"
+#include "dictionary.h"
+#include "value_text.h"
+#include "xarray_db.h"
+
+#include <QCoreApplication>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <cmath>
+
+class tst_values : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void init();
+    void cleanup();
+    void valueIsTakenInItsNormalForm_data();
+    void valueIsTakenInItsNormalForm();
+    void refusalNamesTheLabelAndWhatIsAllowed_data();
+    void refusalNamesTheLabelAndWhatIsAllowed();
+    void limitsAreTakenAndTheirNeighboursRefused();
+    void everyItemOfEveryListGoesInAndComesOut();
+    void dependentsAreToldBeforeSetValueReturns();
+    void updatesStayAwayWhileSwitchedOff();
+    void unknownUiidIsNoError();
+    void focusShowsLimitsOfNumbersOnly();
+    void positionIsNoEdit();
+    void gridRefreshWaitsForTheCommandAndTheBatch();
+    void deletedNetworkInUseIsRefused();
+    void sortMovesReferencesAlong();
+    void revertTakesBackRecordOperations();
+    void lowerAccessLevelLocksFields();
+    void comboValuesServeWhereItemsAreMissing();
+
+  private:
+    bool set(const QString &uiid, const QVariant &value, qint32 record = 1) {
+        bool ok = false;
+        mComponent->SetValue(uiid, value, record, true, ok);
+        return ok;
+    }
+    [[nodiscard]] QString get(const QString &uiid, qint32 record = 1) const {
+        return ValueText::of(mComponent->GetValue(uiid, record));
+    }
+    std::unique_ptr<ComponentListener> mListener;
+    std::unique_ptr<TransformerComponent> mComponent;
+};
+
+void tst_values::init() {
+    mListener = std::make_unique<ComponentListener>();
+    mComponent = std::make_unique<TransformerComponent>(ComponentPlaces{});
+    mComponent->AddListener(mListener.get());
+    mComponent->ChangeTier(QStringLiteral("Advanced"));
+    mListener->clear();
+}
+
+void tst_values::cleanup() {
+    mComponent->ShutDown();
+    mComponent.reset();
+}
+
+void tst_values::valueIsTakenInItsNormalForm_data() {
+    QTest::addColumn<QString>("uiid");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("whole number as text") << "EconomyTimer" << QVariant(QStringLiteral("20")) << "20";
+    QTest::newRow("number") << "EconomyTimer" << QVariant(255) << "255";
+    QTest::newRow("floating number") << "EconomyTimer" << QVariant(12.0) << "12";
+    QTest::newRow("blanks") << "EconomyTimer" << QVariant(QStringLiteral(" 7 ")) << "7";
+    QTest::newRow("decimal point") << "RxFreq_q7r" << QVariant(QStringLiteral("156.5")) << "156.500000";
+    QTest::newRow("decimal comma") << "RxFreq_q7r" << QVariant(QStringLiteral("156,5")) << "156.500000";
+    QTest::newRow("no fraction") << "RxFreq_q7r" << QVariant(QStringLiteral("136")) << "136.000000";
+    QTest::newRow("6.25 kHz raster") << "RxFreq_q7r" << QVariant(QStringLiteral("150.00625")) << "150.006250";
+    QTest::newRow("2.5 kHz raster") << "RxFreq_q7r" << QVariant(QStringLiteral("150.0025")) << "150.002500";
+    QTest::newRow("list item's value") << "TxPower_q7r" << QVariant(QStringLiteral("0")) << "0";
+    QTest::newRow("ID tracker's text") << "RxSignalling_q7r" << QVariant(QStringLiteral("67.0 Hz")) << "67.0 Hz";
+}
+
+void tst_values::valueIsTakenInItsNormalForm() {
+    QFETCH(QString, uiid);
+    QFETCH(QVariant, value);
+    QFETCH(QString, expected);
+    QVERIFY2(set(uiid, value), qPrintable(mListener->messages.join(u'\n')));
+    QCOMPARE(get(uiid), expected);
+    QVERIFY(mComponent->GetDataIsDirty());
+    QCOMPARE(mComponent->GetSaveAllowed(), 1);
+}
+
+void tst_values::refusalNamesTheLabelAndWhatIsAllowed_data() {
+    QTest::addColumn<QString>("uiid");
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QStringList>("parts");
+    const QStringList timer = {QStringLiteral("Economy Timer"), QStringLiteral("0"), QStringLiteral("255")};
+    QTest::newRow("above") << "EconomyTimer" << QVariant(256) << timer;
+    QTest::newRow("below") << "EconomyTimer" << QVariant(-1) << timer;
+    QTest::newRow("no number") << "EconomyTimer" << QVariant(QStringLiteral("ten")) << timer;
+    QTest::newRow("empty") << "EconomyTimer" << QVariant(QString()) << timer;
+    QTest::newRow("infinite") << "EconomyTimer" << QVariant(QStringLiteral("inf")) << timer;
+    QTest::newRow("beyond 32 bits") << "EconomyTimer" << QVariant(1e12) << timer;
+    QTest::newRow("outside the band") << "RxFreq_q7r" << QVariant(QStringLiteral("174.0025"))
+                                      << QStringList{QStringLiteral("Rx Frequency"), QStringLiteral("136"),
+                                                     QStringLiteral("174")};
+    QTest::newRow("off the raster") << "RxFreq_q7r" << QVariant(QStringLiteral("150.001"))
+                                    << QStringList{QStringLiteral("Rx Frequency")};
+    QTest::newRow("two points") << "RxFreq_q7r" << QVariant(QStringLiteral("156.5.0"))
+                                << QStringList{QStringLiteral("Rx Frequency")};
+    QTest::newRow("no such item") << "TxPower_q7r" << QVariant(9) << QStringList{QStringLiteral("Tx Power")};
+    QTest::newRow("no such tone") << "RxSignalling_q7r" << QVariant(QStringLiteral("68.0 Hz"))
+                                  << QStringList{QStringLiteral("Rx Signalling")};
+    QTest::newRow("no such network") << "ChannelNetworkId_q7r" << QVariant(QStringLiteral("32"))
+                                     << QStringList{QStringLiteral("Network")};
+}
+
+void tst_values::refusalNamesTheLabelAndWhatIsAllowed() {
+    QFETCH(QString, uiid);
+    QFETCH(QVariant, value);
+    QFETCH(QStringList, parts);
+    const QString before = get(uiid);
+    QVERIFY(!set(uiid, value));
+    QCOMPARE(mListener->messages.size(), 1);
+    for (const QString &part : parts)
+        QVERIFY2(mListener->messages.first().contains(part), qPrintable(mListener->messages.first()));
+    QCOMPARE(get(uiid), before);
+    QVERIFY(!mComponent->GetDataIsDirty());
+}
+
+void tst_values::limitsAreTakenAndTheirNeighboursRefused() {
+    int tried = 0;
+    for (const FieldDefinition &field : mComponent->dictionary().fields()) {
+        const bool settable = field.kind == FieldKind::Number && !field.readOnly && !field.fact && !field.hidden &&
+                              field.levelIn(TierIndex(2)) != FieldDefinition::kNever && !field.limitsBy;
+        if (!settable || mComponent->dictionary().structure(field.structure).parent.isValid())
+            continue;
+        if (mComponent->GetNumberOfRecords(field.id) == 0 &&
+            !mComponent->dictionary().structure(field.structure).isRadio()) {
+            qint32 added = 0;
+            bool ok = false;
+            mComponent->AddRecord(field.id, QString(), added, ok);
+            QVERIFY2(ok, qPrintable(field.id));
+        }
+        const double unit = std::pow(10.0, field.decimals);
+        QVERIFY2(set(field.id, QString::number(field.limits.minimum / unit, 'f', field.decimals)),
+                 qPrintable(field.id));
+        QVERIFY2(set(field.id, QString::number(field.limits.maximum / unit, 'f', field.decimals)),
+                 qPrintable(field.id));
+        QVERIFY2(
+            !set(field.id, QString::number((field.limits.minimum - field.limits.step) / unit, 'f', field.decimals)),
+            qPrintable(field.id));
+        QVERIFY2(
+            !set(field.id, QString::number((field.limits.maximum + field.limits.step) / unit, 'f', field.decimals)),
+            qPrintable(field.id));
+        ++tried;
+    }
+    QVERIFY2(tried > 40, "hardly any field was tried");
+}
+
+void tst_values::everyItemOfEveryListGoesInAndComesOut() {
+    int tried = 0;
+    for (const FieldDefinition &field : mComponent->dictionary().fields()) {
+        const bool settable = field.hasItems() && !field.readOnly && !field.fact && !field.hidden &&
+                              field.levelIn(TierIndex(2)) != FieldDefinition::kNever;
+        if (!settable || get(field.id) == ValueText::undefined())
+            continue;
+        XArrayDB items;
+        qint32 scope = 0;
+        QVERIFY2(mComponent->GetComboItems(field.id, 1, items, scope), qPrintable(field.id));
+        const QStringList values = mComponent->GetIsComboIndex(field.id).split(u'|', Qt::SkipEmptyParts);
+        for (qint32 row = 0; row <= items.UpperBound(1); ++row) {
+            const QString listValue = values.isEmpty() ? QString::number(row) : values[row];
+            const QString value = field.kind == FieldKind::Choice ? items.Value(row, 1).toString() : listValue;
+            QVERIFY2(set(field.id, value), qPrintable(field.id + u' ' + value));
+            QCOMPARE(get(field.id), value);
+            ++tried;
+        }
+    }
+    QVERIFY2(tried > 300, "hardly any item was tried");
+}
+
+void tst_values::dependentsAreToldBeforeSetValueReturns() {
+    QVERIFY(set(QStringLiteral("EconomyTimer"), QStringLiteral("0"), 0));
+    const qsizetype changed = mListener->log.indexOf(QStringLiteral("FieldHasChanged"));
+    const QStringList enables = mListener->log.mid(0, changed);
+    QCOMPARE(enables, mListener->of(QStringLiteral("SetEnableDisableByUIID")));
+    QVERIFY(enables.contains(QStringLiteral("SetEnableDisableByUIID EconomyDutyCycle 0")));
+    QVERIFY(mListener->log.last().startsWith(QStringLiteral("LastAction Economy Timer")));
+    mListener->clear();
+    QVERIFY(set(QStringLiteral("RxFreq_q7r"), QStringLiteral("150")));
+    QCOMPARE(mListener->of(QStringLiteral("UpdateUIFieldByUIID")),
+             QStringList({QStringLiteral("UpdateUIFieldByUIID RxFreq_q7r 1 150.000000"),
+                          QStringLiteral("UpdateUIFieldByUIID TxFreq_q7r 1 150.000000")}));
+}
+
+void tst_values::updatesStayAwayWhileSwitchedOff() {
+    mComponent->SetProviderUpdateUIOnFieldChange(false);
+    QVERIFY(set(QStringLiteral("RxFreq_q7r"), QStringLiteral("150")));
+    QVERIFY(mListener->of(QStringLiteral("UpdateUIFieldByUIID")).isEmpty());
+    QVERIFY(!mListener->of(QStringLiteral("FieldHasChanged")).isEmpty());
+}
+
+void tst_values::unknownUiidIsNoError() {
+    const QString id = QStringLiteral("economytimer"); // case counts
+    QCOMPARE(get(id), ValueText::undefined());
+    QCOMPARE(mComponent->GetLabel(id), QString());
+    QCOMPARE(mComponent->GetNumberOfRecords(id), 0);
+    QVERIFY(!mComponent->GetFieldEnabled(id, 0));
+    QVERIFY(!set(id, 1));
+    QCOMPARE(mListener->log.count(QStringLiteral("UIIDNotFound ") + id), 5);
+    QCOMPARE(mListener->log.size(), 5);
+    QCOMPARE(mComponent->GetHelpText(id), QString());
+    QCOMPARE(mListener->log.size(), 5);
+}
+
+void tst_values::focusShowsLimitsOfNumbersOnly() {
+    mComponent->FieldGotFocus(QStringLiteral("RxFreq_q7r"));
+    mComponent->FieldGotFocus(QStringLiteral("TxPower_q7r"));
+    QCOMPARE(mListener->log,
+             QStringList({QStringLiteral("ShowFieldDetails 136 174 0.0025 MHz"), QStringLiteral("ClearRange")}));
+}
+
+void tst_values::positionIsNoEdit() {
+    qint32 added = 0;
+    bool ok = false;
+    mComponent->AddRecord(QStringLiteral("ChannelID_q7r"), QString(), added, ok);
+    QVERIFY(ok);
+    QCOMPARE(added, 2);
+    mComponent->SaveForm(QStringLiteral("Advanced"));
+    QVERIFY(set(QStringLiteral("CurrentChannelNr"), 2));
+    QCOMPARE(get(QStringLiteral("CurrentChannelNr")), QStringLiteral("2"));
+    QVERIFY(!mComponent->GetFormIsDirty());
+    QVERIFY(!set(QStringLiteral("CurrentChannelNr"), 3));
+    QVERIFY(!set(QStringLiteral("CurrentChannelNr"), 0));
+    mComponent->DeleteRecord(QStringLiteral("ChannelID_q7r"), 2, ok);
+    QCOMPARE(get(QStringLiteral("CurrentChannelNr")), QStringLiteral("1"));
+}
+
+void tst_values::gridRefreshWaitsForTheCommandAndTheBatch() {
+    const QString line = QStringLiteral("RefreshGridByUIID ChannelID_q7r");
+    bool ok = false;
+    mComponent->BeginBatchUpdate();
+    mComponent->RepeatRecord(QStringLiteral("ChannelID_q7r"), 1, QString(), ok);
+    mComponent->RepeatRecord(QStringLiteral("ChannelID_q7r"), 1, QString(), ok);
+    QCoreApplication::processEvents();
+    QVERIFY(!mListener->log.contains(line));
+    mComponent->EndBatchUpdate();
+    QVERIFY(!mListener->log.contains(line));
+    QCoreApplication::processEvents();
+    QCOMPARE(mListener->log.count(line), 1);
+
+    // A message box with an event loop of its own.
+    mListener->clear();
+    mListener->onEvent = [&](const QString &event) {
+        if (!event.startsWith(QStringLiteral("MsgBox")))
+            return;
+        mComponent->DeleteRecord(QStringLiteral("ChannelID_q7r"), 3, ok);
+        QCoreApplication::processEvents();
+        QVERIFY(!mListener->log.contains(line));
+    };
+    QVERIFY(!set(QStringLiteral("EconomyTimer"), 999));
+    mListener->onEvent = nullptr;
+    QCoreApplication::processEvents();
+    QCOMPARE(mListener->log.count(line), 1);
+}
+
+void tst_values::deletedNetworkInUseIsRefused() {
+    qint32 added = 0;
+    bool ok = false;
+    mComponent->AddRecord(QStringLiteral("NetworkID"), QString(), added, ok);
+    QVERIFY(ok);
+    mListener->clear();
+    mComponent->DeleteRecord(QStringLiteral("NetworkID"), 1, ok);
+    QVERIFY(!ok);
+    QCOMPARE(mListener->messages.size(), 1);
+    QVERIFY2(mListener->messages.first().contains(QStringLiteral("Channel")), qPrintable(mListener->messages.first()));
+    QCOMPARE(mComponent->GetNumberOfRecords(QStringLiteral("NetworkID")), 2);
+    mComponent->DeleteRecord(QStringLiteral("NetworkID"), 2, ok);
+    QVERIFY(ok);
+}
+
+void tst_values::sortMovesReferencesAlong() {
+    qint32 added = 0;
+    bool ok = false;
+    for (int i = 0; i < 2; ++i)
+        mComponent->AddRecord(QStringLiteral("ChannelID_q7r"), QString(), added, ok);
+    const QStringList frequencies = {QStringLiteral("170"), QStringLiteral("140"), QStringLiteral("150")};
+    for (qint32 record = 1; record <= 3; ++record)
+        QVERIFY(set(QStringLiteral("RxFreq_q7r"), frequencies[record - 1], record));
+    mComponent->SortColumn(QStringLiteral("RxFreq_q7r"), true);
+    QStringList ids;
+    for (qint32 record = 1; record <= 3; ++record)
+        ids.append(get(QStringLiteral("ChannelID_q7r"), record));
+    QCOMPARE(ids, QStringList({QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("1")}));
+}
+
+void tst_values::revertTakesBackRecordOperations() {
+    QVERIFY(set(QStringLiteral("RxFreq_q7r"), QStringLiteral("150")));
+    mComponent->SaveForm(QStringLiteral("Advanced"));
+    qint32 added = 0;
+    bool ok = false;
+    mComponent->AddRecord(QStringLiteral("GroupID_q7r"), QString(), added, ok);
+    mComponent->AddRecord(QStringLiteral("FilteredScanGroupChannelMemberID"), QString(), added, ok);
+    QVERIFY(ok);
+    mComponent->RepeatRecord(QStringLiteral("ChannelID_q7r"), 1, QString(), ok);
+    QVERIFY(set(QStringLiteral("RxFreq_q7r"), QStringLiteral("160"), 2));
+    mComponent->DeleteRecord(QStringLiteral("ChannelID_q7r"), 1, ok);
+    QVERIFY(ok);
+    mComponent->RevertFormData(QStringLiteral("Advanced"));
+    QCOMPARE(get(QStringLiteral("RxFreq_q7r")), QStringLiteral("150.000000"));
+    QCOMPARE(mComponent->GetNumberOfRecords(QStringLiteral("ChannelID_q7r")), 1);
+    QCOMPARE(mComponent->GetNumberOfRecords(QStringLiteral("GroupID_q7r")), 0);
+    QVERIFY(!mComponent->GetFormIsDirty());
+    QVERIFY(mComponent->GetDataIsDirty());
+}
+
+void tst_values::lowerAccessLevelLocksFields() {
+    QVERIFY(mComponent->GetFieldEnabled(QStringLiteral("RxFreq_q7r"), 1));
+    QVERIFY(mComponent->SetAccessLevel(20));
+    QVERIFY(!mComponent->SetAccessLevel(30));
+    QVERIFY(!mComponent->GetFieldEnabled(QStringLiteral("RxFreq_q7r"), 1));
+    QVERIFY(!set(QStringLiteral("RxFreq_q7r"), QStringLiteral("150")));
+    QCOMPARE(get(QStringLiteral("RxFreq_q7r")), QStringLiteral("160.000000"));
+}
+
+void tst_values::comboValuesServeWhereItemsAreMissing() {
+    // Every combo: the list index is the value, or there is a value for each item.
+    for (const FieldDefinition &field : mComponent->dictionary().fields()) {
+        if (field.kind != FieldKind::List || get(field.id) == ValueText::undefined())
+            continue;
+        XArrayDB items;
+        qint32 scope = 0;
+        QVERIFY(mComponent->GetComboItems(field.id, 1, items, scope));
+        const QString values = mComponent->GetIsComboIndex(field.id);
+        QVERIFY2(values.isEmpty() || values.count(u'|') == items.UpperBound(1), qPrintable(field.id));
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_values)
+#include "tst_values.moc"
