@@ -1,0 +1,57 @@
+#include "tool_events.h"
+
+#include "message_style.h"
+#include "translation.h"
+
+qint32 ToolEvents::answer(qint32 buttons) const {
+    constexpr qint32 kButtonBits = 7;
+    if ((buttons & kButtonBits) == MessageStyle::kOkOnly)
+        return MessageAnswer::kOk;
+    return mYesToAll ? MessageAnswer::kYes : MessageAnswer::kNo;
+}
+
+void ToolEvents::TransformerEvents_MsgBox(const QString &Prompt, qint32 Buttons, const QString & /*Title*/,
+                                          qint32 &Answer, const QString &strParameters) {
+    mConsole.message(Translation::Fill(Prompt, strParameters.split(u'|')));
+    Answer = answer(Buttons);
+    if (Answer == MessageAnswer::kNo)
+        mConsole.message(QStringLiteral("(answered No; --yes answers Yes)"));
+}
+
+void ToolEvents::TransformerEvents_GeneralDialog(const QString &Prompt, qint32 Buttons, const QString &Title,
+                                                 qint32 &Answer, const QString &strParameters) {
+    TransformerEvents_MsgBox(Prompt, Buttons, Title, Answer, strParameters);
+}
+
+void ToolEvents::TransformerEvents_ChangeToTier(const QString & /*TierKey*/, const QStringList & /*FormList*/,
+                                                const QStringList & /*FormDescList*/,
+                                                const QHash<QString, QVariant> & /*FormAccessLevels*/,
+                                                const QHash<QString, QVariant> & /*FormNetworks*/,
+                                                const QStringList & /*FormTypeList*/, bool &Result) {
+    Result = true;
+}
+
+void ToolEvents::mobjTransformerEvents_ProgressBarStart(qint32 /*Total*/, const QString &strProgressTitle) {
+    mConsole.progress(QString());
+    mConsole.message(strProgressTitle);
+}
+
+void ToolEvents::mobjTransformerEvents_ProgressPing(qint32 /*lngIncrement*/, const QString &strItemName,
+                                                    const QString &strItemPercentage) {
+    const QString line = strItemName + u' ' + strItemPercentage;
+    if (line != mLastProgress)
+        mConsole.progress(line);
+    mLastProgress = line;
+}
+
+void ToolEvents::mobjTransformerEvents_ProgressBarEnd(bool /*blnForceClose*/) { mConsole.progress(QString()); }
+
+void ToolEvents::mobjTransformerEvents_RadioInfo(const QString &strRadioModel, const QString &strSWVersion,
+                                                 const QString &strDBVersion, const QString &strHardwareRev,
+                                                 const QString &strProductCode) {
+    mRadioInfo = {{QStringLiteral("Radio"), strRadioModel},
+                  {QStringLiteral("Software Version"), strSWVersion},
+                  {QStringLiteral("Database Version"), strDBVersion},
+                  {QStringLiteral("Hardware Revision"), strHardwareRev},
+                  {QStringLiteral("Product Code"), strProductCode}};
+}
