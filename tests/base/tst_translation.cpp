@@ -1,0 +1,138 @@
+#include "translation.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class tst_Translation : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void placeholders_data();
+    void placeholders();
+    void parametersAreTranslatedFirst();
+    void partsBeyondTheTwentyFirstAreDropped();
+    void englishIsNeverLookedUp_data();
+    void englishIsNeverLookedUp();
+    void undefinedIsNeverTranslated();
+    void dictionaryLines_data();
+    void dictionaryLines();
+    void aMissingFileLeavesTheTextsAsTheyAre();
+    void aFileIsReadAsUtf8();
+};
+
+void tst_Translation::placeholders_data() {
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("parameters");
+    QTest::addColumn<QString>("filled");
+    QTest::newRow("in order") << u"%0:S to %1:S"_s << u"a|b"_s << u"a to b"_s;
+    QTest::newRow("lower case") << u"%0:s setting"_s << u"Tone"_s << u"Tone setting"_s;
+    QTest::newRow("twice and out of order") << u"%1:S%0:S%1:S"_s << u"a|b"_s << u"bab"_s;
+    QTest::newRow("no part for it") << u"<%2:S>"_s << u"a|b"_s << u"<>"_s;
+    QTest::newRow("empty part") << u"<%0:S>"_s << u"|b"_s << u"<>"_s;
+    QTest::newRow("more parts than placeholders") << u"%0:S"_s << u"a|b|c"_s << u"a"_s;
+    QTest::newRow("two digits") << u"%10:S"_s << u"0|1|2|3|4|5|6|7|8|9|ten"_s << u"ten"_s;
+    QTest::newRow("a placeholder in a part is text") << u"%0:S %1:S"_s << u"%1:S|b"_s << u"%1:S b"_s;
+    QTest::newRow("percent sign") << u"100 % of %0:S"_s << u"x"_s << u"100 % of x"_s;
+    QTest::newRow("not complete") << u"%0: %S %0S %:S %0"_s << u"x"_s << u"%0: %S %0S %:S %0"_s;
+    QTest::newRow("at the end of the text") << u"%0:"_s << u"x"_s << u"%0:"_s;
+    QTest::newRow("English without parameters stays") << u"%0:S"_s << QString() << u"%0:S"_s;
+}
+
+void tst_Translation::placeholders() {
+    QFETCH(QString, text);
+    QFETCH(QString, parameters);
+    Translation translation;
+    translation.gLanguage = 1;
+    QTEST(translation.NLSFmt(text, parameters), "filled");
+}
+
+void tst_Translation::parametersAreTranslatedFirst() {
+    Translation translation;
+    translation.Dictionary().LoadText(u"[3]\ncopy the \tcopier \n%0:S%1:S\t%1:S %0:S!\n"_s);
+    translation.gLanguage = 3;
+    QCOMPARE(translation.NLSFmt(u"%0:S%1:S"_s, u"copy the |Tone"_s), u"Tone copier !"_s);
+}
+
+void tst_Translation::partsBeyondTheTwentyFirstAreDropped() {
+    Translation translation;
+    translation.gLanguage = 1;
+    QStringList parts;
+    for (int i = 0; i < 23; ++i)
+        parts << u"p%1"_s.arg(i);
+    QCOMPARE(translation.NLSFmt(u"%20:S,%21:S"_s, parts.join(u'|')), u"p20,"_s);
+}
+
+void tst_Translation::englishIsNeverLookedUp_data() {
+    QTest::addColumn<qint32>("language");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("not set up") << 0 << u"Off"_s;
+    QTest::newRow("English") << 1 << u"Off"_s;
+    QTest::newRow("second") << 2 << u"Aus"_s;
+    QTest::newRow("without a section") << 4 << u"Off"_s;
+}
+
+void tst_Translation::englishIsNeverLookedUp() {
+    QFETCH(qint32, language);
+    Translation translation;
+    translation.Dictionary().LoadText(u"[1]\nOff\twrong\n[2]\nOff\tAus\n"_s);
+    translation.gLanguage = language;
+    QTEST(translation.NLSStr(u"Off"_s), "text");
+}
+
+void tst_Translation::undefinedIsNeverTranslated() {
+    Translation translation;
+    translation.Dictionary().LoadText(u"[2]\nUndefined\twrong\nOff\tAus\n"_s);
+    translation.gLanguage = 2;
+    QStringList texts{u"Off"_s, u"Undefined"_s, u"other"_s};
+    translation.NLSArray(texts);
+    QCOMPARE(texts, QStringList({u"Aus"_s, u"Undefined"_s, u"other"_s}));
+}
+
+void tst_Translation::dictionaryLines_data() {
+    QTest::addColumn<QString>("table");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("translation");
+    QTest::newRow("plain") << u"[2]\na\tb"_s << u"a"_s << u"b"_s;
+    QTest::newRow("other line ends") << u"[2]\r\na\tb\r\n"_s << u"a"_s << u"b"_s;
+    QTest::newRow("escapes") << u"[2]\nx\\ny\\\\z\tone\\ttwo"_s << u"x\ny\\z"_s << u"one\ttwo"_s;
+    QTest::newRow("line without a tab is passed over") << u"[2]\na\na\tb"_s << u"a"_s << u"b"_s;
+    QTest::newRow("line without a source is passed over") << u"[2]\n\tb"_s << QString() << QString();
+    QTest::newRow("case counts") << u"[2]\nA\tb"_s << u"a"_s << u"a"_s;
+    QTest::newRow("empty translation") << u"[2]\na\t"_s << u"a"_s << QString();
+    QTest::newRow("section reopened") << u"[2]\na\tb\n[3]\na\tx\n[2]\nc\td"_s << u"c"_s << u"d"_s;
+}
+
+void tst_Translation::dictionaryLines() {
+    QFETCH(QString, table);
+    QFETCH(QString, text);
+    TranslationDictionary dictionary;
+    dictionary.LoadText(table);
+    QTEST(dictionary.Translate(2, text), "translation");
+}
+
+void tst_Translation::aMissingFileLeavesTheTextsAsTheyAre() {
+    const QTemporaryDir folder;
+    TranslationDictionary dictionary;
+    QVERIFY(!dictionary.IsOpen());
+    dictionary.LoadText(u"[2]\na\tb"_s);
+    dictionary.Load(folder.filePath(u"absent.mld"_s));
+    QVERIFY(dictionary.IsOpen());
+    QCOMPARE(dictionary.Translate(2, u"a"_s), u"a"_s);
+}
+
+void tst_Translation::aFileIsReadAsUtf8() {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"KX4600.mld"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("[2]\nPower\tPuissance \xc3\xa9mise\n");
+    file.close();
+    TranslationDictionary dictionary;
+    dictionary.Load(file.fileName());
+    QCOMPARE(dictionary.Translate(2, u"Power"_s), u"Puissance émise"_s);
+}
+
+QTEST_GUILESS_MAIN(tst_Translation)
+#include "tst_translation.moc"

@@ -1,0 +1,119 @@
+#include "enabler_collection.h"
+#include "field_event.h"
+#include "initialising_fields_guard.h"
+#include "listener_list.h"
+#include "scripted_message_boxes.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+template <class Action>
+qint32 errorNumberOf(Action &&action) {
+    try {
+        action();
+    } catch (const RunTimeError &error) {
+        return error.Number;
+    }
+    return 0;
+}
+} // namespace
+
+class tst_FieldEvent : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void writtenParametersReachTheRaiser();
+    void aValueCannotBeWritten();
+    void typesMustMatchExactly();
+    void missingParametersRaiseNine();
+    void innerGuardKeepsTheOuterFlag();
+    void leavingListenersHearNoMore();
+    void aBoxThatNobodyExpectedFails();
+    void anExpectedBoxThatNeverCameFails();
+};
+
+void tst_FieldEvent::writtenParametersReachTheRaiser() {
+    QString label = u"before"_s;
+    bool accepted = false;
+    const FieldEvent event(u"GetLabel"_s, in(u"Name"_s), out(label), out(accepted));
+    const FieldEvent copy = event; // a copy still refers to the raiser's variables
+    const auto [uiid, written, result] = copy.unpack<QString, QString &, bool &>();
+    QCOMPARE(written, u"before"_s);
+    written = u"after"_s;
+    result = true;
+    QCOMPARE(uiid, u"Name"_s);
+    QCOMPARE(label, u"after"_s);
+    QVERIFY(accepted);
+    QCOMPARE(event.parameter<QString>(1), u"after"_s); // read as a value too
+}
+
+void tst_FieldEvent::aValueCannotBeWritten() {
+    const FieldEvent event(u"Change"_s, in(qint32(1)));
+    QCOMPARE(errorNumberOf([&] { event.parameter<qint32 &>(0) = 2; }), ErrorNumber::kConversion);
+}
+
+void tst_FieldEvent::typesMustMatchExactly() {
+    qint32 position = 3;
+    const FieldEvent event(u"E"_s, in(true), out(position), in(u"literal"_s));
+    QCOMPARE(errorNumberOf([&] { (void)event.parameter<qint32>(0); }), ErrorNumber::kConversion);
+    QCOMPARE(errorNumberOf([&] { (void)event.parameter<bool &>(1); }), ErrorNumber::kConversion);
+    QCOMPARE(errorNumberOf([&] { (void)event.parameter<qint64>(1); }), ErrorNumber::kConversion);
+    QCOMPARE(event.parameter<qint32>(1), 3);
+}
+
+void tst_FieldEvent::missingParametersRaiseNine() {
+    const FieldEvent event(u"E"_s, in(u"Name"_s));
+    QCOMPARE(errorNumberOf([&] { (void)event.unpack<QString, QString>(); }), ErrorNumber::kIndexOutOfRange);
+    QCOMPARE(errorNumberOf([&] { (void)event.parameter<QString>(1); }), ErrorNumber::kIndexOutOfRange);
+}
+
+void tst_FieldEvent::innerGuardKeepsTheOuterFlag() {
+    ProcessValues process;
+    {
+        const InitialisingFieldsGuard outer(process);
+        { const InitialisingFieldsGuard inner(process); }
+        QVERIFY(process.gblnInitialisingFields);
+    }
+    QVERIFY(!process.gblnInitialisingFields);
+}
+
+void tst_FieldEvent::leavingListenersHearNoMore() {
+    ListenerList<int> list;
+    int first = 0;
+    int second = 0;
+    list.add(&first);
+    list.add(&second);
+    list.raise([&](int &listener) {
+        ++listener;
+        list.remove(&second);
+    });
+    QCOMPARE(first, 1);
+    QCOMPARE(second, 0);
+}
+
+void tst_FieldEvent::aBoxThatNobodyExpectedFails() {
+    QStringList failures;
+    ScriptedMessageBoxes boxes([&failures](const QString &reason) { failures << reason; });
+    QCOMPARE(boxes.MsgBox(u"Sure?"_s, 4, u"Title"_s), 0);
+    QCOMPARE(failures.size(), 1);
+    boxes.expect(u"Sure?"_s, 6);
+    QCOMPARE(boxes.TranslateMsgBox(u"Sure?"_s, 4, u"Title"_s, QString()), 6);
+    QCOMPARE(failures.size(), 1);
+    boxes.expect(u"Sure?"_s, 6);
+    QCOMPARE(boxes.MsgBox(u"Really?"_s, 4, u"Title"_s), 0); // another text is not the expected one
+    QCOMPARE(failures.size(), 2);
+}
+
+void tst_FieldEvent::anExpectedBoxThatNeverCameFails() {
+    QStringList failures;
+    {
+        ScriptedMessageBoxes boxes([&failures](const QString &reason) { failures << reason; });
+        boxes.expect(u"Sure?"_s, 6);
+    }
+    QCOMPARE(failures, QStringList(u"the expected message box did not come: Sure?"_s));
+}
+
+QTEST_GUILESS_MAIN(tst_FieldEvent)
+#include "tst_field_event.moc"

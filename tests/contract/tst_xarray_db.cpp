@@ -1,0 +1,134 @@
+#include "run_time_error.h"
+#include "xarray_db.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+// Cells "row,column" of a shape.
+XArrayDB filled(qint32 upperRow, qint32 upperColumn) {
+    XArrayDB array;
+    array.ReDim(upperRow, upperColumn);
+    for (qint32 row = 0; row <= upperRow; ++row) {
+        for (qint32 column = 0; column <= upperColumn; ++column)
+            array.SetValue(row, column, u"%1,%2"_s.arg(row).arg(column));
+    }
+    return array;
+}
+
+QString cellsOf(const XArrayDB &array) {
+    QStringList rows;
+    for (qint32 row = 0; row <= array.UpperBound(1); ++row) {
+        QStringList cells;
+        for (qint32 column = 0; column <= array.UpperBound(2); ++column)
+            cells << array.Value(row, column).toString();
+        rows << cells.join(u' ');
+    }
+    return rows.join(u'/');
+}
+} // namespace
+
+class tst_XArrayDB : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void anEmptyOneHasNoCells();
+    void reDimKeepsTheCommonCells_data();
+    void reDimKeepsTheCommonCells();
+    void outsideRaisesNine_data();
+    void outsideRaisesNine();
+    void rowsAreInsertedAndDeletedInPlace_data();
+    void rowsAreInsertedAndDeletedInPlace();
+};
+
+void tst_XArrayDB::anEmptyOneHasNoCells() {
+    XArrayDB array;
+    QCOMPARE(array.LowerBound(1), 0);
+    QCOMPARE(array.UpperBound(1), -1);
+    QCOMPARE(array.UpperBound(2), -1);
+    array = filled(2, 1);
+    array.Clear();
+    QCOMPARE(array.LowerBound(2), 0);
+    QCOMPARE(array.UpperBound(1), -1);
+    QCOMPARE(array.UpperBound(2), -1);
+}
+
+void tst_XArrayDB::reDimKeepsTheCommonCells_data() {
+    QTest::addColumn<qint32>("upperRow");
+    QTest::addColumn<qint32>("upperColumn");
+    QTest::addColumn<QString>("cells");
+    QTest::newRow("same") << 1 << 1 << u"0,0 0,1/1,0 1,1"_s;
+    QTest::newRow("more rows") << 2 << 1 << u"0,0 0,1/1,0 1,1/ "_s;
+    QTest::newRow("fewer rows") << 0 << 1 << u"0,0 0,1"_s;
+    QTest::newRow("more columns") << 1 << 2 << u"0,0 0,1 /1,0 1,1 "_s;
+    QTest::newRow("fewer columns") << 1 << 0 << u"0,0/1,0"_s;
+    QTest::newRow("wider and lower") << 0 << 2 << u"0,0 0,1 "_s;
+    QTest::newRow("no rows") << -1 << 1 << QString();
+}
+
+void tst_XArrayDB::reDimKeepsTheCommonCells() {
+    QFETCH(qint32, upperRow);
+    QFETCH(qint32, upperColumn);
+    XArrayDB array = filled(1, 1);
+    array.ReDim(upperRow, upperColumn);
+    QCOMPARE(array.UpperBound(1), upperRow);
+    QCOMPARE(array.UpperBound(2), upperColumn);
+    QTEST(cellsOf(array), "cells");
+}
+
+void tst_XArrayDB::outsideRaisesNine_data() {
+    QTest::addColumn<qint32>("row");
+    QTest::addColumn<qint32>("column");
+    QTest::newRow("row below") << -1 << 0;
+    QTest::newRow("row above") << 2 << 0;
+    QTest::newRow("column below") << 0 << -1;
+    QTest::newRow("column above, though a later row has such a cell") << 0 << 3;
+}
+
+void tst_XArrayDB::outsideRaisesNine() {
+    QFETCH(qint32, row);
+    QFETCH(qint32, column);
+    XArrayDB array = filled(1, 2);
+    const auto numberOf = [](auto &&action) {
+        try {
+            action();
+        } catch (const RunTimeError &error) {
+            return error.Number;
+        }
+        return 0;
+    };
+    QCOMPARE(numberOf([&] { (void)array.Value(row, column); }), ErrorNumber::kIndexOutOfRange);
+    QCOMPARE(numberOf([&] { array.SetValue(row, column, 1); }), ErrorNumber::kIndexOutOfRange);
+    QCOMPARE(numberOf([&] { array.DeleteRow(2); }), ErrorNumber::kIndexOutOfRange);
+    QCOMPARE(numberOf([&] { array.InsertRow(3); }), ErrorNumber::kIndexOutOfRange);
+    QCOMPARE(numberOf([&] { (void)array.UpperBound(3); }), ErrorNumber::kIndexOutOfRange);
+    QCOMPARE(numberOf([&] { (void)array.LowerBound(0); }), ErrorNumber::kIndexOutOfRange);
+    QCOMPARE(numberOf([&] { array.ReDim(-2, 0); }), ErrorNumber::kIndexOutOfRange);
+    QCOMPARE(cellsOf(array), cellsOf(filled(1, 2)));
+}
+
+void tst_XArrayDB::rowsAreInsertedAndDeletedInPlace_data() {
+    QTest::addColumn<bool>("insert");
+    QTest::addColumn<qint32>("row");
+    QTest::addColumn<QString>("cells");
+    QTest::newRow("insert first") << true << 0 << u" /0,0 0,1/1,0 1,1"_s;
+    QTest::newRow("insert between") << true << 1 << u"0,0 0,1/ /1,0 1,1"_s;
+    QTest::newRow("insert behind the last") << true << 2 << u"0,0 0,1/1,0 1,1/ "_s;
+    QTest::newRow("delete first") << false << 0 << u"1,0 1,1"_s;
+    QTest::newRow("delete last") << false << 1 << u"0,0 0,1"_s;
+}
+
+void tst_XArrayDB::rowsAreInsertedAndDeletedInPlace() {
+    QFETCH(bool, insert);
+    QFETCH(qint32, row);
+    XArrayDB array = filled(1, 1);
+    if (insert)
+        array.InsertRow(row);
+    else
+        array.DeleteRow(row);
+    QTEST(cellsOf(array), "cells");
+}
+
+QTEST_GUILESS_MAIN(tst_XArrayDB)
+#include "tst_xarray_db.moc"

@@ -1,0 +1,11 @@
+#include "test_shell.h"
+
+void TestShell::ShowWhatsThisHelp(qint32 HelpContextID) {
+    told << QStringLiteral("ShowWhatsThisHelp(%1)").arg(HelpContextID);
+}
+
+void TestShell::StartDrag(const QString &id, const QString &typeName) {
+    told << QStringLiteral("StartDrag(%1, %2)").arg(id, typeName);
+}
+
+void TestShell::FinishedDrag() { told << QStringLiteral("FinishedDrag()"); }

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "window_services.h"
+
+#include <QStringList>
+
+// A main window that only answers what the test has put there.
+class TestShell final : public FormShell {
+  public:
+    qint32 textAlignment = 0;
+    bool changingForms = false;
+    QString formTypeName = QStringLiteral("usrctlTest");
+    QString formTitle = QStringLiteral("Test");
+    QWidget *mainWindow = nullptr;
+    QStringList told; // ShowWhatsThisHelp, StartDrag and FinishedDrag, a line a call
+
+    [[nodiscard]] qint32 TextAlignment() const override { return textAlignment; }
+    [[nodiscard]] bool ChangingForms() const override { return changingForms; }
+    [[nodiscard]] QString LoadedFormTypeName() const override { return formTypeName; }
+    [[nodiscard]] QString LoadedFormTitle() const override { return formTitle; }
+    [[nodiscard]] QWidget *MainWindow() const override { return mainWindow; }
+    void ShowWhatsThisHelp(qint32 HelpContextID) override;
+    void StartDrag(const QString &id, const QString &typeName) override;
+    void FinishedDrag() override;
+};
