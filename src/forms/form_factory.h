@@ -1,0 +1,24 @@
+#pragma once
+
+#include "control_registry.h"
+#include "form_catalogue.h"
+
+class DataForm;
+class QWidget;
+
+// Makes forms by their names, which are compared without regard to case.
+class FormFactory {
+  public:
+    // Further control classes may be entered here; those of the fields and frames are there.
+    [[nodiscard]] ControlRegistry &Registry() { return mRegistry; }
+
+    // There is such a form, and each of its controls can be made.
+    [[nodiscard]] bool CanCreate(const QString &name);
+    // The form, hidden, as a child of parent. Raises error 35601 for an unknown name or a control that cannot be made;
+    // then nothing is left behind.
+    [[nodiscard]] DataForm *CreateForm(const QString &name, const FieldServices &services, QWidget *parent);
+
+  private:
+    FormCatalogue mCatalogue;
+    ControlRegistry mRegistry;
+};

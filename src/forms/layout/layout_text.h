@@ -1,0 +1,20 @@
+#pragma once
+
+#include "twips.h"
+
+#include <QString>
+
+struct ControlDefinition;
+
+// What the geometry asks about the texts of a form: as they will be shown, translated, in the font of the form.
+class LayoutText {
+  public:
+    virtual ~LayoutText() = default;
+    // A field's label, a frame's or heading's title; "" shows nothing.
+    [[nodiscard]] virtual QString caption(const ControlDefinition &control) const = 0;
+    // Of one line.
+    [[nodiscard]] virtual Twips width(const QString &text) const = 0;
+    // Of one line of a frame's or heading's title, which stands in a bolder font.
+    [[nodiscard]] virtual Twips titleWidth(const QString &text) const = 0;
+    [[nodiscard]] virtual Twips lineHeight() const = 0;
+};

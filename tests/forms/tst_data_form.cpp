@@ -1,0 +1,272 @@
+#include "data_form.h"
+#include "form_factory.h"
+#include "ienabler.h"
+#include "ifield.h"
+#include "recording_transformer.h"
+#include "test_services.h"
+
+#include <QLabel>
+#include <QPointer>
+#include <QTabWidget>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+// The forms without grids, navigators and call-ups.
+const QStringList kPlainForms{QStringLiteral("usrctlSpecificationsKX4600"), QStringLiteral("usrctlStartupKX4600"),
+                              QStringLiteral("usrctlKeySettingsKX4600"),    QStringLiteral("usrctlEconomyKX4600"),
+                              QStringLiteral("usrctlRxMonitorKX4600"),      QStringLiteral("usrctlPTT")};
+
+// A window with one form in it, opened as the main window does it.
+struct Bench {
+    CallLog log;
+    RecordingTransformer component{log};
+    TestServices services{&component};
+    FormFactory factory;
+    QWidget window;
+
+    Bench() {
+        component.when(QStringLiteral("GetComboItems"))
+            .answers(QStringList{QStringLiteral("Off"), QStringLiteral("On")});
+        component.when(QStringLiteral("GetValue")).answers(QStringLiteral("0"));
+    }
+    DataForm *create(const QString &name) { return factory.CreateForm(name, services.fieldServices(), &window); }
+    DataForm *open(const QString &name, QSize size) {
+        DataForm *form = create(name);
+        form->Iusrfrm_Enabler()->Ienabler_InitialiseFields(-1);
+        window.resize(size);
+        form->resize(size);
+        form->show();
+        window.show();
+        form->UserControl_Show();
+        return form;
+    }
+};
+
+// Where a part of a field ends; a label where its text ends.
+int bottomOf(const QWidget &part) {
+    const auto *label = qobject_cast<const QLabel *>(&part);
+    if (label == nullptr)
+        return part.geometry().bottom() + 1;
+    const QRect room(0, 0, label->width(), 1000);
+    return label->y() + label->fontMetrics().boundingRect(room, Qt::TextWordWrap, label->text()).height();
+}
+
+HostControl *controlOf(DataForm &form, const QString &name) {
+    for (HostControl *control : form.Iusrfrm_Controls()) {
+        if (control->Name() == name)
+            return control;
+    }
+    return nullptr;
+}
+} // namespace
+
+class DataFormTest : public QObject {
+    Q_OBJECT
+
+  private Q_SLOTS:
+    void noShownControlOverlapsOrIsCut_data();
+    void noShownControlOverlapsOrIsCut();
+    void formWithAControlThatCannotBeMadeIsRefused_data();
+    void formWithAControlThatCannotBeMadeIsRefused();
+    void firstFocusIsTheFirstEnabledFieldOfTheFirstPage();
+    void focusChainFollowsTheTabOrder();
+    void onlyTheShownPageHasTabStops();
+    void parkedControlsStandFarToTheLeft();
+    void pageWithoutVisibleFieldsIsHidden();
+    void fixedFormKeepsItsPlacesWhenItGrows();
+    void activeControlIsTheFieldNotItsFrame();
+    void closingFromInsideItsOwnFieldIsSafe();
+    void terminatedFormHearsNothingMore();
+};
+
+void DataFormTest::noShownControlOverlapsOrIsCut_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QSize>("size");
+    for (const QString &name : kPlainForms) {
+        for (const QSize &size : {QSize(623, 429), QSize(733, 580), QSize(1307, 806)})
+            QTest::newRow(qPrintable(name + QString::number(size.width()))) << name << size;
+    }
+}
+
+void DataFormTest::noShownControlOverlapsOrIsCut() {
+    QFETCH(QString, name);
+    QFETCH(QSize, size);
+    Bench bench;
+    DataForm *form = bench.open(name, size);
+    QTabWidget *tabs = form->findChild<QTabWidget *>();
+    for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
+        if (tabs != nullptr)
+            tabs->setCurrentIndex(page);
+        QList<QWidget *> seen;
+        for (HostControl *control : form->Iusrfrm_Controls()) {
+            QWidget *widget = form->findChild<QWidget *>(control->Name());
+            if (!widget->isVisibleTo(form))
+                continue;
+            QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()), qPrintable(control->Name()));
+            for (const QWidget *other : seen) {
+                if (other->parentWidget() == widget->parentWidget())
+                    QVERIFY2(!other->geometry().intersects(widget->geometry()), qPrintable(control->Name()));
+            }
+            for (const QWidget *part : widget->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
+                if (!part->isVisibleTo(form) || part->isWindow())
+                    continue;
+                QVERIFY2(bottomOf(*part) <= widget->height() && part->geometry().right() <= widget->width(),
+                         qPrintable(control->Name() + u' ' + part->objectName()));
+            }
+            seen.push_back(widget);
+        }
+    }
+}
+
+void DataFormTest::formWithAControlThatCannotBeMadeIsRefused_data() {
+    QTest::addColumn<QString>("name");
+    QTest::newRow("unknown form") << QStringLiteral("usrctlNothing");
+    QTest::newRow("empty name") << QString();
+    QTest::newRow("class that nobody makes") << QStringLiteral("usrctlTest");
+}
+
+void DataFormTest::formWithAControlThatCannotBeMadeIsRefused() {
+    QFETCH(QString, name);
+    Bench bench;
+    try {
+        if (name != u"usrctlTest") {
+            QVERIFY(!bench.factory.CanCreate(name));
+            (void)bench.create(name);
+        } else {
+            FormDefinition definition;
+            definition.name = name;
+            definition.enabler.typeName = QStringLiteral("ctlFormEnabler");
+            definition.controls.push_back({QStringLiteral("a"), QStringLiteral("fldTrigger"), {}, {}});
+            DataForm form(definition, bench.services.fieldServices(), nullptr);
+            form.Build(ControlRegistry());
+        }
+        QFAIL("it was made");
+    } catch (const RunTimeError &error) {
+        QCOMPARE(error.Number, ErrorNumber::kCollectionKey);
+    }
+    QVERIFY(bench.window.children().isEmpty());
+}
+
+void DataFormTest::firstFocusIsTheFirstEnabledFieldOfTheFirstPage() {
+    Bench bench;
+    bench.component.when(QStringLiteral("GetFieldEnabled"), QStringLiteral("PTTPressCallSetup1_q7r")).refuses();
+    DataForm *form = bench.open(QStringLiteral("usrctlPTT"), {700, 500});
+    QVERIFY(form->Iusrfrm_ActiveControl() != nullptr);
+    QCOMPARE(form->Iusrfrm_ActiveControl()->Name(), QStringLiteral("De-keyAfterPTTCallSetup1_q7r"));
+    QCOMPARE(form->findChild<QTabWidget *>()->currentIndex(), 0);
+}
+
+void DataFormTest::focusChainFollowsTheTabOrder() {
+    Bench bench;
+    DataForm *form = bench.open(QStringLiteral("usrctlKeySettingsKX4600"), {700, 500});
+    QStringList order;
+    const QWidget *start = bench.window.focusWidget();
+    for (QWidget *widget = bench.window.focusWidget(); order.size() < 8; widget = widget->nextInFocusChain()) {
+        QVERIFY(!(widget == start && !order.isEmpty()));
+        if ((widget->focusPolicy() & Qt::TabFocus) == 0 || !widget->isVisible())
+            continue;
+        const QWidget *control = widget;
+        while (control != nullptr && controlOf(*form, control->objectName()) == nullptr)
+            control = control->parentWidget();
+        if (control != nullptr)
+            order.push_back(control->objectName());
+    }
+    QCOMPARE(order.join(u' '), QStringLiteral("FunctionKey1 FunctionKey2 FunctionKey3 FunctionKey4 FK1Parameter1 "
+                                              "FK2Parameter1 FK3Parameter1 FK4Parameter1"));
+}
+
+void DataFormTest::onlyTheShownPageHasTabStops() {
+    Bench bench;
+    bench.component.when(QStringLiteral("GetFieldEnabled"), QStringLiteral("PTTPriority2_q7r")).refuses();
+    DataForm *form = bench.open(QStringLiteral("usrctlPTT"), {700, 500});
+    const auto stop = [&](const char *name) { return controlOf(*form, QString::fromLatin1(name))->TabStop(); };
+    QVERIFY(stop("PTTMonitor1_q7r") && !stop("PTTMonitor2_q7r") && !stop("fldFrame1"));
+    form->findChild<QTabWidget *>()->setCurrentIndex(1);
+    QVERIFY(!stop("PTTMonitor1_q7r") && stop("PTTMonitor2_q7r") && !stop("PTTPriority2_q7r") && !stop("fldFrame4"));
+}
+
+void DataFormTest::parkedControlsStandFarToTheLeft() {
+    Bench bench;
+    DataForm *form = bench.open(QStringLiteral("usrctlPTT"), {700, 500});
+    HostControl *parked = controlOf(*form, QStringLiteral("fldFrame6"));
+    const qint32 before = parked->Left();
+    QVERIFY(before < -10000 && controlOf(*form, QStringLiteral("fldFrame1"))->Left() >= 0);
+    form->resize(1400, 1000);
+    QVERIFY(parked->Left() > before && parked->Left() < -10000);
+    const qint32 scaled = parked->Left();
+    form->findChild<QTabWidget *>()->setCurrentIndex(1);
+    QCOMPARE(parked->Left(), scaled + 75000);
+}
+
+void DataFormTest::pageWithoutVisibleFieldsIsHidden() {
+    Bench bench;
+    bench.component.when(QStringLiteral("GetProgramAsAvailable")).answers(true);
+    bench.component.when(QStringLiteral("GetVersionLevel")).answers(1);
+    for (const PlacedControl &placed : FormCatalogue().form(QStringLiteral("usrctlPTT")).placedControls()) {
+        if (placed.page == 0)
+            bench.component.when(QStringLiteral("GetFieldVersionLevel"), placed.control->id()).answers(2);
+    }
+    DataForm *form = bench.open(QStringLiteral("usrctlPTT"), {700, 500});
+    const QTabWidget *tabs = form->findChild<QTabWidget *>();
+    QVERIFY(!tabs->isTabVisible(0) && tabs->isTabVisible(1) && tabs->isTabVisible(2));
+    QCOMPARE(tabs->currentIndex(), 1);
+}
+
+void DataFormTest::fixedFormKeepsItsPlacesWhenItGrows() {
+    Bench bench;
+    DataForm *fixed = bench.open(QStringLiteral("usrctlEconomyKX4600"), {700, 500});
+    const QRect before = fixed->findChild<QWidget *>(QStringLiteral("fldFrame2"))->geometry();
+    fixed->resize(1400, 1000);
+    QCOMPARE(fixed->findChild<QWidget *>(QStringLiteral("fldFrame2"))->geometry(), before);
+    DataForm *growing = bench.open(QStringLiteral("usrctlRxMonitorKX4600"), {700, 500});
+    const int width = growing->findChild<QWidget *>(QStringLiteral("fldFrame2"))->width();
+    growing->resize(1400, 1000);
+    QCOMPARE(growing->findChild<QWidget *>(QStringLiteral("fldFrame2"))->width(), 2 * width);
+}
+
+void DataFormTest::activeControlIsTheFieldNotItsFrame() {
+    Bench bench;
+    DataForm *form = bench.open(QStringLiteral("usrctlEconomyKX4600"), {700, 500});
+    controlOf(*form, QStringLiteral("EconomyDutyCycle"))->SetFocus();
+    QCOMPARE(form->Iusrfrm_ActiveControl()->Name(), QStringLiteral("EconomyDutyCycle"));
+    bench.window.setFocusPolicy(Qt::StrongFocus);
+    bench.window.setFocus();
+    QCOMPARE(form->Iusrfrm_ActiveControl(), nullptr);
+}
+
+// The component may ask for another form while a field's value is on its way to it.
+void DataFormTest::closingFromInsideItsOwnFieldIsSafe() {
+    Bench bench;
+    QPointer<DataForm> form = bench.open(QStringLiteral("usrctlEconomyKX4600"), {700, 500});
+    bench.component.when(QStringLiteral("SetValue")).runs([&] {
+        form->hide();
+        form->Iusrfrm_Terminate();
+        form->deleteLater();
+    });
+    Ifield *field = controlOf(*form, QStringLiteral("EconomyTimer"))->object();
+    field->Ifield_SetValue(QStringLiteral("7"), true);
+    QCOMPARE(bench.log.linesOf(QStringLiteral("SetValue")).size(), 1);
+    QVERIFY(!form.isNull());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(form.isNull());
+}
+
+void DataFormTest::terminatedFormHearsNothingMore() {
+    Bench bench;
+    std::unique_ptr<DataForm> form(bench.open(QStringLiteral("usrctlEconomyKX4600"), {700, 500}));
+    const std::shared_ptr<Ienabler> enabler = form->Iusrfrm_Enabler();
+    Ifield *field = controlOf(*form, QStringLiteral("EconomyTimer"))->object();
+    form->Iusrfrm_Terminate();
+    form->Iusrfrm_Terminate();
+    (void)bench.log.take();
+    field->Ifield_SetValue(QStringLiteral("9"), true);
+    QCOMPARE(bench.log.lines(), QStringList());
+    QCOMPARE(field->Ifield_WrapperCtrlItem(), nullptr);
+    form.reset();
+    QCOMPARE(enabler->Ienabler_GetActiveControl(), nullptr);
+}
+
+QTEST_MAIN(DataFormTest)
+#include "tst_data_form.moc"
