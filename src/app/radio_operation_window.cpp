@@ -1,0 +1,27 @@
+#include "radio_operation_window.h"
+
+#include "process_values.h"
+#include "progress_info.h"
+#include "serial_ports.h"
+#include "transformer.h"
+#include "value_text.h"
+
+namespace {
+// "COM3: Depot radio", or without a name the device.
+QString portName(Transformer &transformer) {
+    const QString number = ValueText::of(transformer.GetSetting(QStringLiteral("CommPortNumber"), 1));
+    const QString com = QStringLiteral("COM") + number;
+    const SerialPorts ports;
+    for (const SerialPortEntry &entry : ports.List()) {
+        if (QString::number(entry.number) == number)
+            return com + QStringLiteral(": ") + (entry.name.isEmpty() ? entry.device : entry.name);
+    }
+    return com;
+}
+} // namespace
+
+void runRadioOperation(ProcessValues &process, const Translation &translation, ErrorReport &errors,
+                       InterrogationType type, QWidget *owner) {
+    frmProgressInfo window(process, translation, errors, type, portName(*process.objTransformer), owner);
+    window.exec();
+}

@@ -1,0 +1,20 @@
+#include "window_title.h"
+
+#include "common_error_handler.h"
+#include "product_identity.h"
+#include "transformer.h"
+#include "translation.h"
+
+#include <QWidget>
+
+WindowTitle::WindowTitle(QWidget &window, Transformer &transformer, const Translation &translation, ErrorReport &errors)
+    : mWindow(window), mTransformer(transformer), mTranslation(translation), mErrors(errors) {}
+
+void WindowTitle::SetUIFormTitle() try {
+    const QString file = mTransformer.GetFileName();
+    QString title = file.isEmpty() ? QString() : file + QStringLiteral(" - ");
+    title += mTranslation.NLSStr(ProductIdentity::title());
+    title += QStringLiteral(" (") + ProductIdentity::shortVersion() + QStringLiteral(")");
+    mWindow.setWindowTitle(title);
+}
+ERROR_TAIL()
