@@ -144,8 +144,8 @@ void Tour::beRefused() {
     require(mPilot.boxes().size() == 1, QStringLiteral("%1 messages instead of one").arg(mPilot.boxes().size()));
     require(mPilot.boxes().constFirst().contains(QStringLiteral("255")),
             QStringLiteral("the message does not say what is allowed: %1").arg(mPilot.boxes().constFirst()));
-    QCoreApplication::processEvents();
-    require(editor.hasFocus() && editor.text() == QStringLiteral("999"),
+    WindowInput::activate(mProgram.Window());
+    require(mProgram.Window().focusWidget() == &editor && editor.text() == QStringLiteral("999"),
             QStringLiteral("the refused text lost the focus or was changed"));
     picture(QStringLiteral("refused"));
     WindowInput::key(Qt::Key_Escape);
