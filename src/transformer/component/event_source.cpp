@@ -1,7 +1,6 @@
 #include "event_source.h"
 
 #include "message_style.h"
-#include "product_identity.h"
 #include "string_utilities.h"
 
 #include <QScopedValueRollback>
@@ -49,13 +48,17 @@ void EventSource::raiseProgress(const std::function<void(ProgressEvents &)> &eve
 qint32 EventSource::messageBox(const QString &prompt, qint32 buttons, const QStringList &parameters) {
     qint32 answer = MessageAnswer::kNone;
     raise([&](TransformerEvents &listener) {
-        listener.TransformerEvents_MsgBox(prompt, buttons, ProductIdentity::title(), answer, joined(parameters));
+        listener.TransformerEvents_MsgBox(prompt, buttons, QString(), answer, joined(parameters));
     });
     return answer;
 }
 
 void EventSource::tell(const QString &prompt, const QStringList &parameters) {
     (void)messageBox(prompt, MessageStyle::kOkOnly | MessageStyle::kExclamation, parameters);
+}
+
+void EventSource::tellDone(const QString &prompt) {
+    (void)messageBox(prompt, MessageStyle::kOkOnly | MessageStyle::kInformation, {});
 }
 
 void EventSource::tellError(const QString &prompt, const QStringList &parameters) {

@@ -25,6 +25,8 @@ class EventSource {
 
     // Message with an OK button. parameters fill the placeholders %0:S, %1:S ... of prompt.
     void tell(const QString &prompt, const QStringList &parameters = {});
+    // An information box: something is done.
+    void tellDone(const QString &prompt);
     void tellError(const QString &prompt, const QStringList &parameters = {});
     // Yes or No; false where nobody answers.
     [[nodiscard]] bool ask(const QString &prompt, const QStringList &parameters = {});

@@ -136,7 +136,7 @@ void RadioOperations::ProgramRadio() {
     mState.journal.tierIsStored(mState.tier());
     mState.events.lastAction(QStringLiteral("Programmed"), QString());
     mState.events.raise([](TransformerEvents &listener) { listener.TransformerEvents_SetTierNodeGreenTick(true); });
-    mState.events.tell(RadioReportText::outcome(report.outcome));
+    mState.events.tellDone(RadioReportText::outcome(report.outcome));
 }
 
 // A run that ended without doubt leaves no record; one that did not keeps it for the next contact.
