@@ -9,15 +9,25 @@
 
 #include <utility>
 
+namespace {
+const QString kStamp = QStringLiteral("yyyyMMdd'T'HHmmsszzz'Z'");
+} // namespace
+
 RestorePoints::RestorePoints(QString folder) : mFolder(std::move(folder)) {}
 
 QString RestorePoints::store(const QString &serialNumber, const QByteArray &dataFile) const {
     const QString folder = mFolder + u'/' + serialNumber;
     QDir().mkpath(folder);
-    const QString stamp = QDateTime::currentDateTimeUtc().toString(QStringLiteral("yyyyMMdd'T'HHmmsszzz'Z'"));
-    QString path = folder + u'/' + stamp + QStringLiteral(".k4p");
-    for (int i = 2; QFileInfo::exists(path); ++i)
-        path = folder + u'/' + stamp + u'-' + QString::number(i) + QStringLiteral(".k4p");
+    // Always behind the newest one, also within one millisecond and after the clock was set back: names are the order.
+    QDateTime time = QDateTime::currentDateTimeUtc();
+    const QStringList kept = of(serialNumber);
+    if (!kept.isEmpty()) {
+        QDateTime newest = QDateTime::fromString(QFileInfo(kept.first()).completeBaseName(), kStamp);
+        newest.setTimeSpec(Qt::UTC);
+        if (newest.isValid() && newest >= time)
+            time = newest.addMSecs(1);
+    }
+    const QString path = folder + u'/' + time.toString(kStamp) + QStringLiteral(".k4p");
     WholeFile::replace(path, dataFile);
     for (const QString &old : of(serialNumber).mid(kKept))
         QFile::remove(old);
