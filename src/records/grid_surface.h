@@ -1,15 +1,14 @@
 #pragma once
 
 #include "field_event.h"
+#include "host_control.h"
 #include "xarray_db.h"
 
-#include <QPoint>
 #include <QString>
 
 #include <optional>
 #include <vector>
 
-class HostControl;
 class Ifield;
 class Igrid;
 class QWidget;
@@ -64,6 +63,9 @@ class GridTable {
     virtual void SetCol(qint32 column) = 0;
     // Makes the row at this place of the visible window current, at most the last one.
     virtual void SetRow(qint32 place) = 0;
+    // Row and column at once: the present cell is asked once, and what happens at a new cell happens once. False:
+    // refused, and nothing moved.
+    virtual bool MoveTo(const GridCell &cell) = 0;
     [[nodiscard]] virtual qint32 VisibleRows() const = 0;
     [[nodiscard]] virtual qint32 ApproxCount() const = 0;
     virtual void MoveFirst() = 0;
@@ -94,8 +96,13 @@ class GridTable {
     virtual void Refresh() = 0;
     virtual void SetFocus() = 0;
     [[nodiscard]] virtual bool Visible() const = 0;
-    // The cell at a point of the table's viewport; none outside any cell.
-    [[nodiscard]] virtual std::optional<GridCell> CellAt(const QPoint &point) const = 0;
+    // The row (by its bookmark) at a height of the table's viewport, the column at a place across it; none outside any
+    // cell. A row head stands at the height of its row.
+    [[nodiscard]] virtual std::optional<qint32> RowContaining(int y) const = 0;
+    [[nodiscard]] virtual std::optional<qint32> ColContaining(int x) const = 0;
+    // The surfaces that are pressed and dropped on: the cells' viewport and that of the row heads.
+    [[nodiscard]] virtual QWidget &CellsSurface() = 0;
+    [[nodiscard]] virtual QWidget &HeadsSurface() = 0;
 };
 
 // The grid itself.
@@ -110,6 +117,8 @@ class GridSurface {
     // The whole control.
     [[nodiscard]] virtual QWidget *Control() = 0;
     [[nodiscard]] virtual Transformer &Component() = 0;
+    // All controls of the form; null where the grid stands on none.
+    [[nodiscard]] virtual const HostControls *FormControls() const = 0;
 
     [[nodiscard]] virtual qint32 ColumnCount() const = 0;
     // The column on show; raises error 9 for one that does not exist.
@@ -139,6 +148,10 @@ class GridSurface {
     virtual void PickDropdownRow(const XArrayDB &items, qint32 row) = 0;
     // What happens when the drop-down list closes; nothing unless it is open in the current cell.
     virtual void DropDownClose() = 0;
+    // Lists the IDs of the current cell anew.
+    virtual void RebindIDTrackerDropdown() = 0;
+    // The help of the current cell.
+    virtual void ShowCellHelp() = 0;
 
     // The hourglass over the control, and back.
     virtual void ShowHourglass() = 0;
