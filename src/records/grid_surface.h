@@ -4,6 +4,7 @@
 #include "host_control.h"
 #include "xarray_db.h"
 
+#include <QRect>
 #include <QString>
 
 #include <optional>
@@ -66,6 +67,12 @@ class GridTable {
     // Row and column at once: the present cell is asked once, and what happens at a new cell happens once. False:
     // refused, and nothing moved.
     virtual bool MoveTo(const GridCell &cell) = 0;
+    // To the next cell, row by row; step +1 or -1. False: there is none, or the present cell was refused.
+    virtual bool moveToNextCell(int step) = 0;
+    // Whether Tab (step +1) or Shift+Tab (-1) would lead out of the grid.
+    [[nodiscard]] virtual bool isAtEnd(int step) const = 0;
+    // Of the current cell, on the cells' surface.
+    [[nodiscard]] virtual QRect CellRect() const = 0;
     [[nodiscard]] virtual qint32 VisibleRows() const = 0;
     [[nodiscard]] virtual qint32 ApproxCount() const = 0;
     virtual void MoveFirst() = 0;
@@ -126,6 +133,7 @@ class GridSurface {
 
     // The rows as shown, bound to the table; the same rows untranslated, kept only while Translated().
     [[nodiscard]] virtual XArrayDB &DisplayArray() = 0;
+    [[nodiscard]] virtual const XArrayDB &DisplayArray() const = 0;
     [[nodiscard]] virtual XArrayDB &SourceArray() = 0;
     // The language is another than the one that the data stands in.
     [[nodiscard]] virtual bool Translated() const = 0;
