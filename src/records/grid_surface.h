@@ -67,10 +67,6 @@ class GridTable {
     // Row and column at once: the present cell is asked once, and what happens at a new cell happens once. False:
     // refused, and nothing moved.
     virtual bool MoveTo(const GridCell &cell) = 0;
-    // To the next cell, row by row; step +1 or -1. False: there is none, or the present cell was refused.
-    virtual bool moveToNextCell(int step) = 0;
-    // Whether Tab (step +1) or Shift+Tab (-1) would lead out of the grid.
-    [[nodiscard]] virtual bool isAtEnd(int step) const = 0;
     // Of the current cell, on the cells' surface.
     [[nodiscard]] virtual QRect CellRect() const = 0;
     [[nodiscard]] virtual qint32 VisibleRows() const = 0;
