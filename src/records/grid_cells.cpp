@@ -1,0 +1,64 @@
+#include "grid_cells.h"
+
+#include "translation.h"
+#include "value_text.h"
+
+#include <algorithm>
+
+namespace {
+constexpr qint32 kLanguageOfTheData = 1;
+
+bool holds(const XArrayDB &array, GridCell cell) {
+    return cell.row >= 0 && cell.column >= 0 && cell.row <= array.UpperBound(1) && cell.column <= array.UpperBound(2);
+}
+
+void writeTo(XArrayDB &array, GridCell cell, const QVariant &value) {
+    if (holds(array, cell))
+        array.SetValue(cell.row, cell.column, value);
+}
+} // namespace
+
+bool GridCells::translated() const { return mTranslation.gLanguage > kLanguageOfTheData; }
+
+bool GridCells::has(GridCell cell) const { return holds(mDisplay, cell); }
+
+QVariant GridCells::sourceValue(GridCell cell) const {
+    const XArrayDB &array = translated() ? mSource : mDisplay;
+    return holds(array, cell) ? array.Value(cell.row, cell.column) : QVariant();
+}
+
+QString GridCells::displayText(GridCell cell) const {
+    return has(cell) ? ValueText::of(mDisplay.Value(cell.row, cell.column)) : QString();
+}
+
+QVariant GridCells::shown(const QVariant &value) const {
+    const bool stays = !translated() || ValueText::isUndefined(value);
+    return stays ? value : QVariant(mTranslation.NLSStr(ValueText::of(value)));
+}
+
+void GridCells::takeOver() {
+    if (!translated())
+        return;
+    mSource = mDisplay;
+    for (qint32 row = 0; row <= mDisplay.UpperBound(1); ++row) {
+        for (qint32 column = 0; column <= mDisplay.UpperBound(2); ++column)
+            mDisplay.SetValue(row, column, shown(mSource.Value(row, column)));
+    }
+}
+
+void GridCells::write(GridCell cell, const QVariant &value) {
+    writeTo(mDisplay, cell, shown(value));
+    if (translated())
+        writeTo(mSource, cell, value);
+}
+
+void GridCells::placeRow(qint32 row, const XArrayDB &cells) {
+    for (qint32 column = 0; column <= cells.UpperBound(2); ++column)
+        write({row, column}, cells.Value(0, column));
+}
+
+void GridCells::appendRow() {
+    mDisplay.ReDim(mDisplay.UpperBound(1) + 1, mDisplay.UpperBound(2));
+    if (translated())
+        mSource.ReDim(mSource.UpperBound(1) + 1, mDisplay.UpperBound(2));
+}
