@@ -19,9 +19,8 @@ QString withDecimals(const QString &digits, qsizetype decimals) {
 }
 
 bool isPlainDecimal(const QString &text) {
-    const bool known = std::all_of(text.begin(), text.end(), [](QChar c) {
-        return (c >= u'0' && c <= u'9') || c == u'.';
-    });
+    const bool known =
+        std::all_of(text.begin(), text.end(), [](QChar c) { return (c >= u'0' && c <= u'9') || c == u'.'; });
     return known && ValueText::isNumeric(text);
 }
 } // namespace

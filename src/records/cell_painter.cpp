@@ -27,9 +27,9 @@ void CellPainter::paint(QPainter *painter, const QStyleOptionViewItem &option, c
     cell.state &= ~QStyle::State_HasFocus;
     if (withButton) {
         // The text ends where the button begins.
-        painter->fillRect(option.rect, option.palette.brush(
-                                           (option.state & QStyle::State_Selected) != 0 ? QPalette::Highlight
-                                                                                        : QPalette::Base));
+        painter->fillRect(
+            option.rect,
+            option.palette.brush((option.state & QStyle::State_Selected) != 0 ? QPalette::Highlight : QPalette::Base));
         cell.rect.setRight(buttonRect(option.rect).left() - 1);
     }
     QStyledItemDelegate::paint(painter, cell, index);

@@ -13,6 +13,6 @@ void FetchCellTips(const TDBGrid &table, const QHelpEvent &event) {
     const QRect room = CellPainter::textRect(table.visualRect(index), withButton);
     const bool fits = text.isEmpty() || table.fontMetrics().horizontalAdvance(text) <= room.width();
     QToolTip::showText(event.globalPos(),
-                       fits ? QString() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()),
-                       table.viewport(), table.visualRect(index));
+                       fits ? QString() : QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped()), table.viewport(),
+                       table.visualRect(index));
 }

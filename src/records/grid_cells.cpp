@@ -57,8 +57,19 @@ void GridCells::placeRow(qint32 row, const XArrayDB &cells) {
         write({row, column}, cells.Value(0, column));
 }
 
-void GridCells::appendRow() {
-    mDisplay.ReDim(mDisplay.UpperBound(1) + 1, mDisplay.UpperBound(2));
+void GridCells::modifyRow(qint32 row, const XArrayDB &cells) {
+    for (qint32 column = 0; column <= cells.UpperBound(2); ++column) {
+        writeTo(mDisplay, {row, column}, shown(cells.Value(0, column)));
+        if (translated())
+            writeTo(mSource, {0, column}, cells.Value(0, column));
+    }
+}
+
+qint32 GridCells::appendRow(qint32 lastColumn) {
+    const qint32 row = rows();
+    const qint32 columns = std::max(mDisplay.UpperBound(2), lastColumn);
+    mDisplay.ReDim(row, columns);
     if (translated())
-        mSource.ReDim(mSource.UpperBound(1) + 1, mDisplay.UpperBound(2));
+        mSource.ReDim(mSource.UpperBound(1) + 1, columns);
+    return row;
 }

@@ -28,8 +28,10 @@ class GridCells {
     void write(GridCell cell, const QVariant &value);
     // Row 0 of the array as the row's cells, in both.
     void placeRow(qint32 row, const XArrayDB &cells);
-    // A blank row at the end, in both.
-    void appendRow();
+    // The row's shown cells at row, their source values in row 0.
+    void modifyRow(qint32 row, const XArrayDB &cells);
+    // A blank row at the end, in both; its number. lastColumn: of an array that is without columns still.
+    qint32 appendRow(qint32 lastColumn);
 
   private:
     [[nodiscard]] QVariant shown(const QVariant &value) const;

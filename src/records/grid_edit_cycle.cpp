@@ -70,9 +70,7 @@ bool GridEditCycle::isLeftAlone() {
 
 void GridEditCycle::noteStored() { mEntered = mParts.table.Text(); }
 
-void GridEditCycle::raiseChange(qint32 record) {
-    mParts.grid.Raise(FieldEvent(QStringLiteral("Change"), in(record)));
-}
+void GridEditCycle::raiseChange(qint32 record) { mParts.grid.Raise(FieldEvent(QStringLiteral("Change"), in(record))); }
 
 void GridEditCycle::BeforeRowColChange(bool &Cancel) try { Validate(Cancel); }
 ERROR_TAIL_AS("TDBGrid1_BeforeRowColChange")

@@ -3,6 +3,7 @@
 #include "cell_editor.h"
 #include "tdb_grid.h"
 
+#include <QHeaderView>
 #include <QKeyEvent>
 
 #include <algorithm>

@@ -10,6 +10,7 @@
 #include "table_events.h"
 #include "tdb_drop_down.h"
 
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -22,8 +23,8 @@
 namespace {
 // A text box has its own copy, paste and undo.
 bool isTextCommand(const QKeyEvent &key) {
-    return key == QKeySequence::Copy || key == QKeySequence::Cut || key == QKeySequence::Paste ||
-           key == QKeySequence::SelectAll || key == QKeySequence::Undo || key == QKeySequence::Redo;
+    return key.matches(QKeySequence::Copy) || key.matches(QKeySequence::Cut) || key.matches(QKeySequence::Paste) ||
+           key.matches(QKeySequence::SelectAll) || key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
 }
 } // namespace
 
@@ -54,7 +55,8 @@ void TDBGrid::setUpHeads() {
     QHeaderView &columns = *horizontalHeader();
     columns.setHighlightSections(false);
     columns.setSectionsClickable(true);
-    columns.setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter | Qt::TextWordWrap);
+    columns.setDefaultAlignment(
+        Qt::Alignment::fromInt(int(Qt::AlignLeft) | int(Qt::AlignVCenter) | int(Qt::TextWordWrap)));
     // A press on a head sorts; it selects no column.
     disconnect(&columns, SIGNAL(sectionPressed(int)), this, SLOT(selectColumn(int)));
     disconnect(&columns, SIGNAL(sectionEntered(int)), this, nullptr);
@@ -107,19 +109,6 @@ bool TDBGrid::MoveTo(const GridCell &cell) {
     if (cell != last)
         mEvents.RowColChange(last.row, last.column);
     return currentCell() == cell;
-}
-
-bool TDBGrid::isAtEnd(int step) const {
-    const GridCell end = step > 0 ? GridCell{ApproxCount() - 1, mModel.columnCount() - 1} : GridCell{0, 0};
-    return !hasCurrent() || currentCell() == end;
-}
-
-bool TDBGrid::moveToNextCell(int step) {
-    if (isAtEnd(step))
-        return false;
-    const qint32 columns = mModel.columnCount();
-    const qint32 place = mRow * columns + mCol + step;
-    return MoveTo({place / columns, place % columns});
 }
 
 bool TDBGrid::commitCell() {
@@ -233,9 +222,7 @@ void TDBGrid::Refresh() {
 
 bool TDBGrid::isEditableNow() const { return hasCurrent() && isEnabled() && mModel.isEditable(mCol); }
 
-bool TDBGrid::hasListNow() const {
-    return isEditableNow() && hasList(mModel.columns()[std::size_t(mCol)].type);
-}
+bool TDBGrid::hasListNow() const { return isEditableNow() && hasList(mModel.columns()[std::size_t(mCol)].type); }
 
 bool TDBGrid::isCheckNow() const {
     return isEditableNow() && mModel.columns()[std::size_t(mCol)].type == ColumnType::kCheckbox;

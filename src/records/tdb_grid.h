@@ -46,8 +46,6 @@ class TDBGrid final : public QTableView, public GridTable {
     void SetCol(qint32 column) override;
     void SetRow(qint32 place) override;
     bool MoveTo(const GridCell &cell) override;
-    bool moveToNextCell(int step) override;
-    [[nodiscard]] bool isAtEnd(int step) const override;
     [[nodiscard]] QRect CellRect() const override;
     [[nodiscard]] qint32 VisibleRows() const override;
     [[nodiscard]] qint32 ApproxCount() const override;
