@@ -54,6 +54,7 @@ class GridEditCycle final : public TableEvents {
     };
 
     void commit(bool &cancel);
+    void holdCell(qint32 row);
     void formatText();
     [[nodiscard]] bool isLeftAlone();
     void raiseChange(qint32 record);
