@@ -42,6 +42,7 @@ void CellPainter::paint(QPainter *painter, const QStyleOptionViewItem &option, c
         arrow.rect = buttonRect(option.rect).adjusted(3, 3, -3, -3);
         mTable.style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, painter, &mTable);
     }
-    painter->setPen(option.palette.color(QPalette::Active, QPalette::Highlight));
+    const bool selected = (option.state & QStyle::State_Selected) != 0;
+    painter->setPen(option.palette.color(QPalette::Active, selected ? QPalette::HighlightedText : QPalette::Highlight));
     painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
 }

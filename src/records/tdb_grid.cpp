@@ -178,14 +178,28 @@ void TDBGrid::showBlock() {
 
 void TDBGrid::setColumnWidths(const std::vector<int> &widths) {
     QHeaderView &heads = *horizontalHeader();
+    heads.setStretchLastSection(false);
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        heads.resizeSection(int(column), std::max(widths[column], heads.minimumSectionSize()));
     heads.setStretchLastSection(!widths.empty() && widths.back() == 0);
-    for (std::size_t column = 0; column < widths.size(); ++column) {
-        if (widths[column] > 0)
-            heads.resizeSection(int(column), widths[column]);
-    }
+    fitHeads();
     mRow = -1;
     mCol = widths.empty() ? -1 : 0;
     mBlock = {};
+}
+
+// A caption that is too wide for its column breaks into two lines.
+void TDBGrid::fitHeads() {
+    constexpr int kMargin = 4;
+    QHeaderView &heads = *horizontalHeader();
+    const int line = fontMetrics().height();
+    int height = line;
+    for (int column = 0; column < mModel.columnCount(); ++column) {
+        const QRect room(0, 0, heads.sectionSize(column) - 2 * kMargin, 2 * line);
+        const QString caption = mModel.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        height = std::max(height, fontMetrics().boundingRect(room, Qt::TextWordWrap, caption).height());
+    }
+    heads.setFixedHeight(std::min(height, 2 * line) + kMargin);
 }
 
 void TDBGrid::ReBind() { bind({}); }

@@ -93,6 +93,7 @@ class TDBGrid final : public QTableView, public GridTable {
 
   private:
     void setUpHeads();
+    void fitHeads();
     void clickHead(int column);
     void tellEdited();
     void takeChoice(const QString &text);
