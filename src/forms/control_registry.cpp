@@ -4,6 +4,7 @@
 #include "fld_checkbox_field.h"
 #include "fld_combo_field.h"
 #include "fld_frame.h"
+#include "fld_grid_field.h"
 #include "fld_id_tracker_field.h"
 #include "fld_page_navigator.h"
 #include "fld_text_field.h"
@@ -33,6 +34,7 @@ ControlRegistry::ControlRegistry() {
     Add(QStringLiteral("fldComboField"), &make<fldComboField>);
     Add(QStringLiteral("fldCheckboxField"), &make<fldCheckboxField>);
     Add(QStringLiteral("fldIdTrackerField"), &make<fldIdTrackerField>);
+    Add(QStringLiteral("fldGridField"), &make<fldGridField>);
     Add(QStringLiteral("fldPageNavigator"), &make<fldPageNavigator>);
     Add(QStringLiteral("fldFrame"), &make<fldFrame>);
     Add(QStringLiteral("Frame"), &makePlainFrame);
