@@ -33,6 +33,7 @@ class tst_values : public QObject {
     void revertTakesBackRecordOperations();
     void lowerAccessLevelLocksFields();
     void comboValuesServeWhereItemsAreMissing();
+    void editTellsWhichFormsItMakesAvailable();
 
   private:
     bool set(const QString &uiid, const QVariant &value, qint32 record = 1) {
@@ -336,6 +337,22 @@ void tst_values::comboValuesServeWhereItemsAreMissing() {
         QVERIFY(mComponent->GetComboItems(field.id, 0, items, scope));
         QVERIFY2(!field.scope.isEmpty() || items.UpperBound(1) == last, qPrintable(field.id));
     }
+}
+
+void tst_values::editTellsWhichFormsItMakesAvailable() {
+    const auto told = [this] {
+        const QStringList lines = mListener->of(QStringLiteral("EnableDisableFormItem"));
+        mListener->clear();
+        return lines.join(u'|');
+    };
+    mComponent->RefreshFormList();
+    (void)told();
+    QVERIFY(set(QStringLiteral("SignallingType"), 1));
+    QCOMPARE(told(), QStringLiteral("EnableDisableFormItem Features 1|EnableDisableFormItem Alerts 1"));
+    QVERIFY(set(QStringLiteral("TxDurationTimer"), 100));
+    QCOMPARE(told(), QString());
+    mComponent->RevertFormData(mComponent->GetCurrentTier());
+    QCOMPARE(told(), QStringLiteral("EnableDisableFormItem Features 0|EnableDisableFormItem Alerts 0"));
 }
 
 QTEST_GUILESS_MAIN(tst_values)
