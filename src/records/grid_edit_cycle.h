@@ -65,7 +65,7 @@ class GridEditCycle final : public TableEvents {
     void reportChoice(const OpenedList &opened);
 
     Parts mParts;
-    const FieldServices mServices;
+    FieldServices mServices;
     ErrorReport &mErrors;
     std::optional<OpenedList> mOpened;
     std::optional<GridCell> mPrepared; // the cell whose list and rules are bound
