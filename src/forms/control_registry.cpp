@@ -4,7 +4,9 @@
 #include "fld_checkbox_field.h"
 #include "fld_combo_field.h"
 #include "fld_frame.h"
+#include "fld_grid_field.h"
 #include "fld_id_tracker_field.h"
+#include "fld_page_navigator.h"
 #include "fld_text_field.h"
 #include "run_time_error.h"
 #include "translation.h"
@@ -32,6 +34,8 @@ ControlRegistry::ControlRegistry() {
     Add(QStringLiteral("fldComboField"), &make<fldComboField>);
     Add(QStringLiteral("fldCheckboxField"), &make<fldCheckboxField>);
     Add(QStringLiteral("fldIdTrackerField"), &make<fldIdTrackerField>);
+    Add(QStringLiteral("fldGridField"), &make<fldGridField>);
+    Add(QStringLiteral("fldPageNavigator"), &make<fldPageNavigator>);
     Add(QStringLiteral("fldFrame"), &make<fldFrame>);
     Add(QStringLiteral("Frame"), &makePlainFrame);
 }
