@@ -5,7 +5,9 @@
 #include "fld_combo_field.h"
 #include "fld_frame.h"
 #include "fld_id_tracker_field.h"
+#include "fld_slider_field.h"
 #include "fld_text_field.h"
+#include "fld_trigger.h"
 #include "run_time_error.h"
 #include "translation.h"
 #include "window_services.h"
@@ -32,6 +34,8 @@ ControlRegistry::ControlRegistry() {
     Add(QStringLiteral("fldComboField"), &make<fldComboField>);
     Add(QStringLiteral("fldCheckboxField"), &make<fldCheckboxField>);
     Add(QStringLiteral("fldIdTrackerField"), &make<fldIdTrackerField>);
+    Add(QStringLiteral("fldSliderField"), &make<fldSliderField>);
+    Add(QStringLiteral("fldTrigger"), &make<fldTrigger>);
     Add(QStringLiteral("fldFrame"), &make<fldFrame>);
     Add(QStringLiteral("Frame"), &makePlainFrame);
 }

@@ -17,7 +17,7 @@ class ControlRegistry {
     using Maker =
         std::function<QWidget *(const FieldServices &services, const FieldProperties &properties, QWidget *parent)>;
 
-    // Enters the fields, frames and plain frames.
+    // Enters the fields, triggers, frames and plain frames.
     ControlRegistry();
 
     // A class that is there already gets the new maker.
