@@ -138,7 +138,7 @@ void DataFormTest::formWithAControlThatCannotBeMadeIsRefused() {
             FormDefinition definition;
             definition.name = name;
             definition.enabler.typeName = QStringLiteral("ctlFormEnabler");
-            definition.controls.push_back({QStringLiteral("a"), QStringLiteral("fldTrigger"), {}, {}});
+            definition.controls.push_back({QStringLiteral("a"), QStringLiteral("fldNothing"), {}, {}});
             DataForm form(definition, bench.services.fieldServices(), nullptr);
             form.Build(ControlRegistry());
         }
