@@ -1,6 +1,5 @@
 #include "sub_form_values.h"
 
-#include "cls_control_item.h"
 #include "ifield.h"
 #include "igrid.h"
 #include "inavigator.h"
@@ -16,50 +15,10 @@ Ifield *valueField(const HostControl &control) {
     Ifield *field = control.object();
     if (field == nullptr || field->Ifield_GetUIIDNotFound() || ValueText::isUndefined(field->Ifield_GetUIID()))
         return nullptr;
-    const bool manyValues = dynamic_cast<Inavigator *>(field) != nullptr || dynamic_cast<Igrid *>(field) != nullptr;
+    const bool manyValues = NavigatorWatch::isNavigator(control) || dynamic_cast<Igrid *>(field) != nullptr;
     return manyValues ? nullptr : field;
 }
 } // namespace
-
-// Stands between a navigator and its item, and tells of each new record after the fields have taken it.
-class SubFormValues::NavigatorWatch final : public HostEvents {
-  public:
-    NavigatorWatch(SubFormValues &owner, HostControl &navigator)
-        : mOwner(owner), mNavigator(navigator), mItem(navigator.object()->Ifield_WrapperCtrlItem()) {
-        mNavigator.SetListener(this);
-    }
-    ~NavigatorWatch() override {
-        const auto item = mItem.lock();
-        mNavigator.SetListener(item.get());
-    }
-    Q_DISABLE_COPY_MOVE(NavigatorWatch)
-
-    void frmField_GotFocus() override {
-        if (const auto item = mItem.lock())
-            item->frmField_GotFocus();
-    }
-    void frmField_LostFocus() override {
-        if (const auto item = mItem.lock())
-            item->frmField_LostFocus();
-    }
-    void frmField_Validate(bool &Cancel) override {
-        if (const auto item = mItem.lock())
-            item->frmField_Validate(Cancel);
-    }
-    void frmField_ObjectEvent(const FieldEvent &Event) override {
-        const auto item = mItem.lock();
-        if (item == nullptr)
-            return;
-        item->frmField_ObjectEvent(Event);
-        if (Event.name() == u"ChangedPosition" && !item->Terminated())
-            mOwner.keepNewRecord();
-    }
-
-  private:
-    SubFormValues &mOwner;
-    HostControl &mNavigator;
-    std::weak_ptr<clsControlItem> mItem;
-};
 
 SubFormValues::SubFormValues(const HostControls &controls, const FieldServices &services)
     : mControls(controls), mServices(services) {
@@ -69,19 +28,11 @@ SubFormValues::SubFormValues(const HostControls &controls, const FieldServices &
     }
 }
 
-SubFormValues::~SubFormValues() = default;
-
-void SubFormValues::release() {
-    mWatches.clear();
-    mNavigators.clear();
-    mKept.clear();
-}
-
 void SubFormValues::keep() {
     mKept = {present()};
     for (HostControl *control : mControls) {
-        if (dynamic_cast<Inavigator *>(control->object()) != nullptr)
-            mWatches.push_back(std::make_unique<NavigatorWatch>(*this, *control));
+        if (NavigatorWatch::isNavigator(*control))
+            mWatches.push_back(std::make_unique<NavigatorWatch>(*control, [this] { keepNewRecord(); }));
     }
 }
 

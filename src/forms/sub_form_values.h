@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host_control.h"
+#include "navigator_watch.h"
 #include "window_services.h"
 
 #include <QVariant>
@@ -14,9 +15,8 @@ class Inavigator;
 // puts back.
 class SubFormValues {
   public:
-    // controls: of the form, alive until release().
+    // controls: of the form, which outlives this.
     SubFormValues(const HostControls &controls, const FieldServices &services);
-    ~SubFormValues();
     Q_DISABLE_COPY_MOVE(SubFormValues)
 
     // Keeps the values now shown, and from then on those of each record that a navigator brings. Navigators, grids,
@@ -25,11 +25,8 @@ class SubFormValues {
     // Puts every kept value back, control by control in their order: the record on show through its fields, the others
     // straight into the component, the one opened first last. What is refused stays as it is.
     void rollback();
-    // Leaves the controls alone from now on.
-    void release();
 
   private:
-    class NavigatorWatch;
     // One record as it was first shown.
     struct Kept {
         std::vector<qint32> positions;     // of the navigators, in their order

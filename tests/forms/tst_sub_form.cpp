@@ -190,6 +190,7 @@ class tst_sub_form final : public QObject {
     void firstFieldHasTheFocus();
     void unknownFormIsReportedAndLeavesNothing();
     void callUpOpensTheWindowOnce();
+    void callUpsFollowTheirNavigator();
 };
 
 void tst_sub_form::okKeepsTheEditsOfItsRecord() {
@@ -349,6 +350,27 @@ void tst_sub_form::callUpOpensTheWindowOnce() {
     });
     button->click();
     QCOMPARE(opened, 1);
+}
+
+void tst_sub_form::callUpsFollowTheirNavigator() {
+    Bench bench;
+    const std::unique_ptr<DataForm> form(bench.factory.CreateForm(QStringLiteral("usrctlFreeFormatKX4600"),
+                                                                  bench.services.fieldServices(), &bench.main));
+    const auto records = [&form] {
+        QStringList result;
+        for (int k = 1; k <= 7; ++k) {
+            auto *callUp = form->findChild<fldSubFormCallUp *>(QStringLiteral("fldFreeFormatDetail%1").arg(k));
+            result << QString::number(callUp == nullptr ? -1 : callUp->SubFormRecordNr());
+        }
+        return result.join(u' ');
+    };
+    auto &navigator = *dynamic_cast<PlainNavigator *>(form->findChild<QWidget *>(QStringLiteral("fldPageNavigator1")));
+    navigator.Inavigator_Position(1);
+    QCOMPARE(records(), QStringLiteral("1 2 3 4 5 6 7"));
+    navigator.Inavigator_Position(3);
+    QCOMPARE(records(), QStringLiteral("15 16 17 18 19 20 21"));
+    navigator.Inavigator_Position(0); // no record: nothing to open
+    QCOMPARE(records(), QStringLiteral("15 16 17 18 19 20 21"));
 }
 
 QTEST_MAIN(tst_sub_form)
