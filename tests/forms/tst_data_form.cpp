@@ -66,6 +66,7 @@ class DataFormTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("setTabOrder"))); }
     void noShownControlOverlapsOrIsCut_data();
     void noShownControlOverlapsOrIsCut();
     void formWithAControlThatCannotBeMadeIsRefused_data();
