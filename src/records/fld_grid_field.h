@@ -11,6 +11,7 @@
 #include "grid_properties.h"
 #include "grid_values.h"
 #include "igrid.h"
+#include "navigator_grid.h"
 
 class TDBGrid;
 
@@ -21,7 +22,7 @@ class TDBGrid;
 // Properties: ButtonAdd, ButtonInsert, ButtonRepeat, ButtonDelete, ButtonImport (true), Dynamic (false), Fields (""),
 // ID ("Undefined"), Enabled (true), ReadOnly (false), RequiresSortBeforeAdd (false), Sortable (true).
 // Events: those that the table of events of clsControlItem names for a grid.
-class fldGridField final : public EditableField, public Igrid, private GridSurface {
+class fldGridField final : public EditableField, public Igrid, public NavigatorGrid, private GridSurface {
     Q_OBJECT
   public:
     // Raises error 5 or 13 for a property that does not fit.
@@ -32,10 +33,10 @@ class fldGridField final : public EditableField, public Igrid, private GridSurfa
     void SetFormControls(const HostControls &controls) { mFormControls = &controls; }
 
     // The commands of the buttons, for a navigator that owns the grid.
-    void Add() { mOperations.commands.cmdAdd_Click(); }
-    void Delete() { mOperations.deletion.cmdDelete_Click(); }
-    void Insert() { mOperations.commands.cmdInsert_Click(); }
-    void Repeat() { mOperations.commands.cmdRepeat_Click(); }
+    void Add() override { mOperations.commands.cmdAdd_Click(); }
+    void Delete() override { mOperations.deletion.cmdDelete_Click(); }
+    void Insert() override { mOperations.commands.cmdInsert_Click(); }
+    void Repeat() override { mOperations.commands.cmdRepeat_Click(); }
     void AcceleratorsEnabled(bool enabled) { mOperations.buttons.AcceleratorsEnabled(enabled); }
 
     // A blank row at the end becomes current; its position.

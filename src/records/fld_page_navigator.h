@@ -2,6 +2,7 @@
 
 #include "editable_field.h"
 #include "inavigator.h"
+#include "navigator_buttons.h"
 #include "navigator_names.h"
 #include "navigator_parts.h"
 #include "navigator_position.h"
@@ -20,7 +21,7 @@ struct FieldProperties;
 // (""), Enabled (true).
 // Events: "ChangedPosition", "ChangePositionStorage", "AddRecordNavigator", "DeleteRecordNavigator",
 // "InsertRecordNavigator", "RepeatRecordNavigator", "ValidateForm".
-class fldPageNavigator final : public EditableField, public Inavigator, private PositionOwner {
+class fldPageNavigator final : public EditableField, public Inavigator, public NavigatorButtons, private PositionOwner {
     Q_OBJECT
   public:
     fldPageNavigator(const FieldServices &services, const FieldProperties &properties, QWidget *parent);
@@ -59,6 +60,8 @@ class fldPageNavigator final : public EditableField, public Inavigator, private 
     void Inavigator_ForcePositionChange(qint32 lngPosition) override;
     QString Inavigator_StoragePositionUIID() const override { return mPositionStorageUIID; }
     QString Inavigator_GridControl() const override { return mGridControl; }
+
+    [[nodiscard]] bool ButtonAdd() const override;
 
     // Widened to 6000 twips if narrower; the height follows from the slider.
     TwipSize SetControlSize(const TwipSize &size) override;
