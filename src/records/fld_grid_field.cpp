@@ -2,6 +2,7 @@
 
 #include "common_error_handler.h"
 #include "dimmed_colour.h"
+#include "form_controls_of.h"
 #include "grid_cell_writer.h"
 #include "run_time_error.h"
 #include "tdb_drop_down.h"
@@ -46,6 +47,10 @@ fldGridField::fldGridField(const FieldServices &services, const FieldProperties 
 QWidget *fldGridField::editingPart() const { return mTable; }
 
 GridTable &fldGridField::Table() { return *mTable; }
+
+const HostControls *fldGridField::FormControls() const {
+    return mFormControls != nullptr ? mFormControls : formControlsOf(*this);
+}
 
 // Events.
 

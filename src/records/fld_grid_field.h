@@ -115,7 +115,7 @@ class fldGridField final : public EditableField, public Igrid, public NavigatorG
     Igrid &Grid() override { return *this; }
     QWidget *Control() override { return this; }
     Transformer &Component() override { return component(); }
-    const HostControls *FormControls() const override { return mFormControls; }
+    const HostControls *FormControls() const override;
     qint32 ColumnCount() const override { return mModel.columnCount(); }
     GridColumnFacts ColumnAt(qint32 column) const override;
     XArrayDB &DisplayArray() override { return mCells.DisplayArray(); }

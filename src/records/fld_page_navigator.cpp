@@ -3,8 +3,8 @@
 #include "combo_list.h"
 #include "common_error_handler.h"
 #include "field_properties.h"
+#include "form_controls_of.h"
 #include "host_control.h"
-#include "iusrfrm.h"
 #include "navigator_grid.h"
 #include "navigator_slider.h"
 #include "process_values.h"
@@ -183,15 +183,11 @@ bool fldPageNavigator::formIsValid() {
 NavigatorGrid *fldPageNavigator::grid() const {
     if (mGridControl.isEmpty() || isTerminated())
         return nullptr;
-    for (QWidget *widget = parentWidget(); widget != nullptr; widget = widget->parentWidget()) {
-        auto *const form = dynamic_cast<Iusrfrm *>(widget);
-        if (form == nullptr)
-            continue;
-        const HostControls &controls = form->Iusrfrm_Controls();
-        const auto found = std::ranges::find(controls, mGridControl, &HostControl::Name);
-        return found == controls.end() ? nullptr : dynamic_cast<NavigatorGrid *>((*found)->object());
-    }
-    return nullptr;
+    const HostControls *controls = formControlsOf(*this);
+    if (controls == nullptr)
+        return nullptr;
+    const auto found = std::ranges::find(*controls, mGridControl, &HostControl::Name);
+    return found == controls->end() ? nullptr : dynamic_cast<NavigatorGrid *>((*found)->object());
 }
 
 void fldPageNavigator::Ifield_SetRecordNumber(qint32 lngNewRecordNumber) {

@@ -44,11 +44,15 @@ GridButtons::GridButtons(GridSurface &grid, const Commands &commands) : mGrid(gr
     }
 }
 
-// A button takes the focus from the table, so the current cell is asked first.
+// A button takes the focus from the table, so the current cell is asked first; a refused one gets the focus back.
 void GridButtons::click(const std::function<void()> &command) {
     bool cancel = false;
     mGrid.Validate(cancel);
-    if (!cancel && !mGrid.Terminated())
+    if (mGrid.Terminated())
+        return;
+    if (cancel)
+        mGrid.Table().SetFocus();
+    else
         command();
 }
 

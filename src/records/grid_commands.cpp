@@ -113,6 +113,9 @@ void GridCommands::cmdRepeat_Click() try {
 }
 
 void GridCommands::makeRecord(const Command &command, qint32 position) {
+    mGrid.Table().Update(); // what was being typed must not reach the record that takes this row
+    if (mGrid.Terminated())
+        return;
     XArrayDB &rows = mGrid.DisplayArray();
     rows.InsertRow(position);
     mBlank = Blank{position, rows.UpperBound(1)};

@@ -12,6 +12,7 @@
 #include "transformer.h"
 #include "value_text.h"
 
+#include <QLineEdit>
 #include <QScopedValueRollback>
 
 #include <utility>
@@ -45,9 +46,16 @@ void GridEditCycle::commit(bool &cancel) {
     }
     if (!cancel)
         noteStored();
-    else if (mParts.table.Bookmark() != row)
-        mParts.table.SetBookmark(row);
+    else
+        holdCell(row);
     mParts.table.Refresh();
+}
+
+void GridEditCycle::holdCell(qint32 row) {
+    if (mParts.table.Bookmark() != row)
+        mParts.table.SetBookmark(row);
+    if (mParts.table.EditActive())
+        mParts.table.editor().box().selectAll(); // what is typed next replaces what was refused
 }
 
 // Only what was entered: a value that the component gave stays as it came.
@@ -107,7 +115,11 @@ void GridEditCycle::keepSource() {
         mParts.grid.SourceArray().SetValue(*row, mParts.table.Col(), *source);
 }
 
-void GridEditCycle::Change() try { raiseChange(mParts.grid.Field().Ifield_GetRecordNr()); }
+// A choice in a list is not told letter by letter: it would be written at each.
+void GridEditCycle::Change() try {
+    if (!hasList(mParts.values.current().type))
+        raiseChange(mParts.grid.Field().Ifield_GetRecordNr());
+}
 ERROR_TAIL_AS("TDBGrid1_Change")
 
 void GridEditCycle::Toggle() try {
@@ -155,7 +167,7 @@ void GridEditCycle::prepareCell() {
 void GridEditCycle::BeforeEdit() try {
     if (mPrepared != mParts.table.currentCell())
         prepareCell();
-    else if (!mParts.table.EditActive())
+    else if (!mParts.table.EditActive() && !mParts.table.dropDown().isVisible())
         bindList();
 }
 ERROR_TAIL()

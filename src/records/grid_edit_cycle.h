@@ -54,6 +54,7 @@ class GridEditCycle final : public TableEvents {
     };
 
     void commit(bool &cancel);
+    void holdCell(qint32 row);
     void formatText();
     [[nodiscard]] bool isLeftAlone();
     void raiseChange(qint32 record);
@@ -64,7 +65,7 @@ class GridEditCycle final : public TableEvents {
     void reportChoice(const OpenedList &opened);
 
     Parts mParts;
-    const FieldServices mServices;
+    FieldServices mServices;
     ErrorReport &mErrors;
     std::optional<OpenedList> mOpened;
     std::optional<GridCell> mPrepared; // the cell whose list and rules are bound

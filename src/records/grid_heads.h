@@ -22,7 +22,7 @@ class GridHeads {
     [[nodiscard]] int pixelWidth(const TDBGrid &table, const ColumnDetails &details, const QString &caption) const;
 
     GridSurface &mGrid;
-    const FieldServices mServices;
+    FieldServices mServices;
     const GridColumns &mColumns;
 };
 

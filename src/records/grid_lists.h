@@ -37,6 +37,6 @@ class GridLists {
     void convertColumn(XArrayDB &array, qint32 column, const QString &uiid) const;
 
     GridSurface &mGrid;
-    const FieldServices &mServices;
+    FieldServices mServices;
     QHash<QString, QString> mTranslatedNames; // by the translated text
 };

@@ -4,6 +4,6 @@
 class NavigatorButtons {
   public:
     virtual ~NavigatorButtons() = default;
-    // The design property.
+    // Whether the button is there.
     [[nodiscard]] virtual bool ButtonAdd() const = 0;
 };

@@ -44,6 +44,7 @@ class NavigatorParts {
     [[nodiscard]] NavigatorSlider &sldSelector() const { return *mSlider; }
     [[nodiscard]] ComboList &cboSelector() const { return *mList; }
     [[nodiscard]] QPushButton &button(NavigatorButton button) const { return *mButtons[std::size_t(button)]; }
+    [[nodiscard]] bool shows(NavigatorButton button) const { return isShown(std::size_t(button)); }
     // What takes keys and clicks, in tab order.
     [[nodiscard]] std::vector<QWidget *> editingParts() const;
 

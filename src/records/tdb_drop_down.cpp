@@ -99,9 +99,9 @@ bool TDBDropDown::takeKey(const QKeyEvent &key) {
 }
 
 void TDBDropDown::choose() {
-    const int row = bookmark();
-    if (row >= 0)
-        Q_EMIT chosen(mItems[row]);
+    const QString text = mItems.value(bookmark()); // the list may be filled anew by who hears of it
+    if (bookmark() >= 0)
+        Q_EMIT chosen(text);
     hide();
 }
 

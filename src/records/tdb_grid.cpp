@@ -19,6 +19,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 // A text box has its own copy, paste and undo.
@@ -151,7 +152,9 @@ void TDBGrid::selectBlock(const RowBlock &block) {
     if (block.first() != mRow && !MoveTo({block.first(), mCol}))
         return;
     mBlock = block;
-    showBlock();
+    // Once for many rows that join one by one.
+    if (!std::exchange(mShowsLater, true))
+        QMetaObject::invokeMethod(this, &TDBGrid::showBlock, Qt::QueuedConnection);
 }
 
 void TDBGrid::AddSelBookmark(qint32 row) {
@@ -167,6 +170,7 @@ void TDBGrid::RemoveSelBookmarks() {
 }
 
 void TDBGrid::showBlock() {
+    mShowsLater = false;
     const int last = mModel.columnCount() - 1;
     QItemSelection rows;
     if (!mBlock.empty() && last >= 0)
@@ -385,9 +389,14 @@ bool TDBGrid::event(QEvent *event) {
         event->accept();
         return true;
     }
-    // Tab is a key of the grid before it moves the focus.
-    if (event->type() == QEvent::KeyPress && mEvents.KeyDown(static_cast<QKeyEvent &>(*event)))
-        return true;
+    if (event->type() == QEvent::KeyPress) {
+        // What the editor has left over.
+        if (mEditor->box().hasFocus())
+            return false;
+        // Tab is a key of the grid before it moves the focus.
+        if (mEvents.KeyDown(static_cast<QKeyEvent &>(*event)))
+            return true;
+    }
     return QTableView::event(event);
 }
 

@@ -119,4 +119,5 @@ class TDBGrid final : public QTableView, public GridTable {
     qint32 mCol = -1;
     bool mAsking = false;  // the cell that is to be left is being asked
     bool mPlacing = false; // the cursor moves by this class
+    bool mShowsLater = false;
 };

@@ -51,6 +51,7 @@ FakeGridSurface::FakeGridSurface()
     design.ID = QStringLiteral("FreqID");
     design.Dynamic = true;
     window.resize(400, 200);
+    table.setGeometry(0, 0, 400, 200);
     cells.setGeometry(0, 0, 200, 200);
     heads.setGeometry(200, 0, 200, 200);
 }

@@ -25,8 +25,9 @@ class FakeGridSurface final : public GridSurface, public GridTable {
     TestServices services{&component};
     FakeGrid field{log, QStringLiteral("grdFreq"), QStringLiteral("Nr|Name|Kind|Net")};
     QWidget window; // cells at the left, heads at the right; a cell is 10 by 10 pixels
-    QWidget cells{&window};
-    QWidget heads{&window};
+    QWidget table{&window};
+    QWidget cells{&table};
+    QWidget heads{&table};
 
     GridDesign design;
     // Nr (text), Name (text), Kind (combo), Net (ID tracker)

@@ -37,7 +37,8 @@ void tst_grid_parts::barStringsEndAtTheirLastItem() {
 
 void tst_grid_parts::columnsAreReadFiveItemsEach() {
     GridColumns columns;
-    columns.GetDetails(QStringLiteral("|ControlStatusValue|1700  |ID Tracker|0| 000.000000|RxFreq_q7r|0     |Text|-1|"));
+    columns.GetDetails(
+        QStringLiteral("|ControlStatusValue|1700  |ID Tracker|0| 000.000000|RxFreq_q7r|0     |Text|-1|"));
     QCOMPARE(columns.count(), 2);
     QCOMPARE(columns.details(0).width.count, 1700);
     QCOMPARE(columns.details(0).type, ColumnType::kIdTracker);
@@ -77,20 +78,35 @@ void tst_grid_parts::numbersAreFormatted_data() {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("formatted");
     const QString frequency = QStringLiteral(" 000.000000");
-    QTest::newRow("decimals filled") << frequency << "156.5" << "156.500000";
-    QTest::newRow("whole number") << frequency << "156" << "156.000000";
-    QTest::newRow("leading zeros") << frequency << "68.5" << "068.500000";
-    QTest::newRow("longer than the zeros") << frequency << "1560.5" << "1560.500000";
-    QTest::newRow("too many decimals") << frequency << "156.1234567" << "156.123457";
-    QTest::newRow("as it is") << frequency << "156.500000" << "156.500000";
-    QTest::newRow("blanks") << frequency << " 156.5 " << "156.500000";
-    QTest::newRow("negative") << QStringLiteral(" 00.0") << "-4" << "-04.0";
-    QTest::newRow("text") << frequency << "None" << "None";
-    QTest::newRow("exponent") << frequency << "1e2" << "1e2";
-    QTest::newRow("empty") << frequency << "" << "";
-    QTest::newRow("no decimals") << QStringLiteral(" 000") << "7" << "007";
-    QTest::newRow("mask alone") << QStringLiteral("000.0") << "7" << "7";
-    QTest::newRow("no format") << "" << "7.0" << "7.0";
+    QTest::newRow("decimals filled") << frequency << "156.5"
+                                     << "156.500000";
+    QTest::newRow("whole number") << frequency << "156"
+                                  << "156.000000";
+    QTest::newRow("leading zeros") << frequency << "68.5"
+                                   << "068.500000";
+    QTest::newRow("longer than the zeros") << frequency << "1560.5"
+                                           << "1560.500000";
+    QTest::newRow("too many decimals") << frequency << "156.1234567"
+                                       << "156.123457";
+    QTest::newRow("as it is") << frequency << "156.500000"
+                              << "156.500000";
+    QTest::newRow("blanks") << frequency << " 156.5 "
+                            << "156.500000";
+    QTest::newRow("negative") << QStringLiteral(" 00.0") << "-4"
+                              << "-04.0";
+    QTest::newRow("text") << frequency << "None"
+                          << "None";
+    QTest::newRow("exponent") << frequency << "1e2"
+                              << "1e2";
+    QTest::newRow("empty") << frequency << ""
+                           << "";
+    QTest::newRow("no decimals") << QStringLiteral(" 000") << "7"
+                                 << "007";
+    QTest::newRow("mask alone") << QStringLiteral("000.0") << "7"
+                                << "7";
+    QTest::newRow("no format") << ""
+                               << "7.0"
+                               << "7.0";
 }
 
 void tst_grid_parts::numbersAreFormatted() {
