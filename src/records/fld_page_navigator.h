@@ -62,6 +62,8 @@ class fldPageNavigator final : public EditableField, public Inavigator, public N
     QString Inavigator_GridControl() const override { return mGridControl; }
     bool ButtonAdd() const override { return mParts.shows(NavigatorButton::kAdd); }
 
+    [[nodiscard]] bool ButtonAdd() const override;
+
     // Widened to 6000 twips if narrower; the height follows from the slider.
     TwipSize SetControlSize(const TwipSize &size) override;
     void SetTabStop(bool tabStop) override;
