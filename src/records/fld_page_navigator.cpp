@@ -290,8 +290,6 @@ void fldPageNavigator::SetActionkeysEnabledDisabled() {
     mParts.sldSelector().setEnabled(any);
 }
 
-bool fldPageNavigator::ButtonAdd() const { return !mParts.button(NavigatorButton::kAdd).isHidden(); }
-
 TwipSize fldPageNavigator::SetControlSize(const TwipSize &size) {
     mSize = mParts.layOut(size.width);
     resize(TwipScale::of(*this).toPixels(mSize));
