@@ -71,6 +71,7 @@ class tst_channels_form final : public QObject {
     void addedChannelsAreShownByBoth();
     void fieldsFollowTheRow();
     void rowFollowsTheNavigator();
+    void valueOfOneIsShownByTheOther();
     void refusedValueHoldsBoth();
     void repeatedAndDeletedChannels();
     void reopenedFormComesBackToItsChannel();
@@ -102,13 +103,34 @@ void tst_channels_form::rowFollowsTheNavigator() {
     QCOMPARE(bench.row(), 1);
 }
 
+// What one of them keeps would be written back when it is left.
+void tst_channels_form::valueOfOneIsShownByTheOther() {
+    Channels bench;
+    bench.showPage(1);
+    bench.type(QStringLiteral("155.500000"));
+    bench.click("cmdFirst");
+    bench.showPage(0);
+    bench.clickRow(2);
+    bench.clickRow(0);
+    bench.click("cmdFirst");
+    QCOMPARE(bench.value(kFrequency, 3), QStringLiteral("155.500000"));
+    bench.clickRow(1);
+    WindowInput::type(QStringLiteral("156.500000"));
+    WindowInput::key(Qt::Key_Return);
+    bench.clickRow(0);
+    bench.clickRow(1);
+    bench.showPage(1);
+    QCOMPARE(bench.value(kFrequency, 2), QStringLiteral("156.500000"));
+    QCOMPARE(ValueText::of(bench.field(kFrequency)->Ifield_GetValue()), QStringLiteral("156.500000"));
+}
+
 void tst_channels_form::refusedValueHoldsBoth() {
     Channels bench;
     bench.showPage(1);
     bench.type(QStringLiteral("999"));
-    bench.boxes.expect(QStringLiteral("%0:S must lie between %1:S and %2:S in steps of %3:S."), 1);
+    bench.boxes.expect(QStringLiteral("%0:S must lie between %1:S and %2:S."), 1);
     bench.click("cmdFirst");
-    bench.boxes.expect(QStringLiteral("%0:S must lie between %1:S and %2:S in steps of %3:S."), 1);
+    bench.boxes.expect(QStringLiteral("%0:S must lie between %1:S and %2:S."), 1);
     bench.click("cmdAdd");
     QCOMPARE(bench.row(), 2);
     QCOMPARE(bench.value(kStored), QStringLiteral("3"));
