@@ -2,7 +2,6 @@
 
 #include "control_registry.h"
 #include "field_properties.h"
-#include "fld_grid_field.h"
 #include "form_definition.h"
 
 #include <QTabWidget>
@@ -17,7 +16,6 @@ void FormControls::Build(const FormDefinition &definition, const FieldServices &
             addControl(file, placed, services, registry, form);
     }
     mByDefinition.clear();
-    introduceGrids();
     chainFocus();
 }
 
@@ -79,13 +77,6 @@ void FormControls::HideEmptyPages() {
         for (const std::unique_ptr<FieldHost> &host : mHosts)
             used = used || (host->Widget()->parentWidget() == mTabWidget->widget(page) && host->Visible());
         mTabWidget->setTabVisible(page, used);
-    }
-}
-
-void FormControls::introduceGrids() const {
-    for (const std::unique_ptr<FieldHost> &host : mHosts) {
-        if (auto *grid = qobject_cast<fldGridField *>(host->Widget()))
-            grid->SetFormControls(mAll);
     }
 }
 

@@ -7,7 +7,8 @@
 class DataForm;
 class QWidget;
 
-// Makes forms by their names, which are compared without regard to case.
+// Makes forms by their names, which are compared without regard to case: those of the catalogue, and the calibration
+// form "usrctlCalSpecifications", which has an enabler and no fields.
 class FormFactory {
   public:
     FormFactory();
@@ -23,7 +24,12 @@ class FormFactory {
     [[nodiscard]] DataForm *CreateForm(const QString &name, const FieldServices &services, QWidget *parent);
 
   private:
+    // The catalogue's, or the calibration form.
+    [[nodiscard]] bool isKnown(const QString &name) const;
+    [[nodiscard]] const FormDefinition &definitionOf(const QString &name);
+
     FormCatalogue mCatalogue;
+    FormDefinition mCalibration;
     ControlRegistry mRegistry;
     SubForms mSubForms{*this};
 };

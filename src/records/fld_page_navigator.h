@@ -17,8 +17,7 @@ struct FieldProperties;
 // do nothing), GuideUIID (""; its records are counted, its values are their names), PositionStorageUIID (""; without it
 // a move of the slider changes nothing), GotoNumber (1), SliderStyle (0: step buttons; 1 and 2: list and record
 // buttons), ButtonAdd, ButtonInsert, ButtonRepeat, ButtonDelete (true with style 2, else false), GridControl (""),
-// SubNavigator
-// (""), Enabled (true).
+// SubNavigator (""), Enabled (true).
 // Events: "ChangedPosition", "ChangePositionStorage", "AddRecordNavigator", "DeleteRecordNavigator",
 // "InsertRecordNavigator", "RepeatRecordNavigator", "ValidateForm".
 class fldPageNavigator final : public EditableField, public Inavigator, public NavigatorButtons, private PositionOwner {

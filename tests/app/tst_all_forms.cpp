@@ -5,12 +5,16 @@
 #include "program_bench.h"
 #include "transformer.h"
 #include "value_text.h"
+#include "window_input.h"
 #include "xarray_db.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include <span>
@@ -53,20 +57,16 @@ void fillData(const ProgramBench &bench) {
         bench.setValue(QStringLiteral("SignallingType"), 1, 1);
 }
 
-// What is wrong with the geometry of what is seen.
+// What is wrong with the geometry of what is seen of a form.
 class Geometry {
   public:
-    Geometry(const ProgramBench &bench, QStringList &faults) : mBench(bench), mFaults(faults) {}
+    Geometry(DataForm &form, QStringList &faults) : mForm(form), mFaults(faults) {}
 
     void look(const QString &where) {
         mWhere = where;
-        for (const char *bar : {"HScroll1", "VScroll1"}) {
-            if (mBench.window().findChild<QScrollBar *>(QLatin1String(bar))->isVisible())
-                fault(QStringLiteral("scrolls"), QLatin1String(bar));
-        }
         QList<const QWidget *> seen;
-        for (HostControl *control : mBench.form()->Iusrfrm_Controls()) {
-            const auto *widget = mBench.form()->findChild<QWidget *>(control->Name());
+        for (HostControl *control : mForm.Iusrfrm_Controls()) {
+            const auto *widget = mForm.findChild<QWidget *>(control->Name());
             if (widget->isVisible())
                 lookAt(*widget, seen);
         }
@@ -86,7 +86,7 @@ class Geometry {
         mFaults << mWhere + QStringLiteral(": ") + name + u' ' + what;
     }
 
-    const ProgramBench &mBench;
+    DataForm &mForm;
     QStringList &mFaults;
     QString mWhere;
 };
@@ -98,12 +98,15 @@ class tst_all_forms final : public QObject {
   private Q_SLOTS:
     void everyFormOpensFilled_data();
     void everyFormOpensFilled();
+    void everyCallUpOpensItsSequence_data();
+    void everyCallUpOpensItsSequence();
 
   private:
+    [[nodiscard]] int lookAtSubForm(const ProgramBench &bench);
     void lookAtForm(const ProgramBench &bench, const QString &caption);
     void lookAtField(const ProgramBench &bench, const HostControl &control, const QString &where);
     void lookAtGrid(const ProgramBench &bench, Igrid &grid, const QString &where);
-    void picture(const ProgramBench &bench, const QString &name);
+    void picture(const ProgramBench &bench, QWidget &window, const QString &name);
 
     QStringList mFaults;
 };
@@ -131,10 +134,56 @@ void tst_all_forms::everyFormOpensFilled() {
     QTEST(int(captions.size()), "forms");
 }
 
+void tst_all_forms::everyCallUpOpensItsSequence_data() {
+    QTest::addColumn<QString>("tier");
+    QTest::newRow("standard") << QStringLiteral("Standard");
+    QTest::newRow("advanced") << QStringLiteral("Advanced");
+}
+
+// Seven sequences to a system: with the second system on show they are 8 to 14.
+void tst_all_forms::everyCallUpOpensItsSequence() {
+    QFETCH(QString, tier);
+    mFaults.clear();
+    ProgramBench bench;
+    bench.chooseTier(tier);
+    fillData(bench);
+    fillData(bench);
+    QVERIFY(bench.openForm(QStringLiteral("Free Format Bursts")));
+    WindowInput::click(bench.part<QPushButton>(QStringLiteral("fldPageNavigator1"), "cmdLast"));
+    for (int callUp = 1; callUp <= 7; ++callUp) {
+        const QString name = QStringLiteral("fldFreeFormatDetail%1").arg(callUp);
+        int shown = 0;
+        QTimer waits;
+        connect(&waits, &QTimer::timeout, this, [&] { shown = qMax(shown, lookAtSubForm(bench)); });
+        waits.start(20);
+        WindowInput::click(*bench.form()->findChild<QWidget *>(name)->findChild<QPushButton *>());
+        QCOMPARE(shown, 7 + callUp);
+    }
+    QCOMPARE(mFaults.join(u'\n'), QString());
+}
+
+// The record that it shows; closes it. 0 while it is not open.
+int tst_all_forms::lookAtSubForm(const ProgramBench &bench) {
+    QWidget *const window = QApplication::activeModalWidget();
+    auto *const form = window == nullptr ? nullptr : window->findChild<DataForm *>();
+    if (form == nullptr)
+        return 0;
+    int record = 0;
+    for (const HostControl *control : form->Iusrfrm_Controls()) {
+        lookAtField(bench, *control, QStringLiteral("Sub-form: ") + control->Name());
+        if (control->TypeName() == u"fldPageNavigator")
+            record = control->object()->Ifield_GetRecordNr();
+    }
+    Geometry(*form, mFaults).look(QStringLiteral("Sub-form"));
+    picture(bench, *window, QStringLiteral("Sub-form"));
+    window->findChild<QPushButton *>(QStringLiteral("cmdCancel"))->click();
+    return record;
+}
+
 void tst_all_forms::lookAtForm(const ProgramBench &bench, const QString &caption) {
     for (const HostControl *control : bench.form()->Iusrfrm_Controls())
         lookAtField(bench, *control, caption + QStringLiteral(": ") + control->Name());
-    Geometry geometry(bench, mFaults);
+    Geometry geometry(*bench.form(), mFaults);
     auto *tabs = bench.form()->findChild<QTabWidget *>(QStringLiteral("SSTab1"));
     for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
         const QString where = tabs == nullptr ? caption : caption + u'-' + QString::number(page + 1);
@@ -144,7 +193,11 @@ void tst_all_forms::lookAtForm(const ProgramBench &bench, const QString &caption
             tabs->setCurrentIndex(page);
         QCoreApplication::processEvents();
         geometry.look(where);
-        picture(bench, where);
+        for (const char *bar : {"HScroll1", "VScroll1"}) {
+            if (bench.window().findChild<QScrollBar *>(QLatin1String(bar))->isVisible())
+                mFaults << where + QStringLiteral(": scrolls");
+        }
+        picture(bench, bench.window(), where);
     }
 }
 
@@ -183,12 +236,11 @@ void tst_all_forms::lookAtGrid(const ProgramBench &bench, Igrid &grid, const QSt
         mFaults << where + QStringLiteral(" has %1 rows for %2 records").arg(rows.UpperBound(1) + 1).arg(records);
 }
 
-void tst_all_forms::picture(const ProgramBench &bench, const QString &name) {
+void tst_all_forms::picture(const ProgramBench &bench, QWidget &window, const QString &name) {
     const QDir folder(QCoreApplication::applicationDirPath() + QStringLiteral("/../form-pictures"));
     folder.mkpath(QStringLiteral("."));
-    bench.window().grab().save(folder.filePath(bench.component().GetCurrentTier() + u'-' +
-                                               QString(name).replace(u' ', u'_').replace(u'/', u'_') +
-                                               QStringLiteral(".png")));
+    window.grab().save(folder.filePath(bench.component().GetCurrentTier() + u'-' +
+                                       QString(name).replace(u' ', u'_').replace(u'/', u'_') + QStringLiteral(".png")));
 }
 
 QTEST_MAIN(tst_all_forms)

@@ -68,7 +68,11 @@ void ChangeNotifier::raise(const Effects &effects, const Origin *origin) {
     };
     for (const Place &place : effects.values) {
         const bool isOrigin = origin != nullptr && place.field == origin->field && place.record == origin->record;
-        if (!mState.updateUiOnFieldChange || !isShown(place) || (isOrigin && origin->showsValue))
+        // A grid and a field of one form may both show it: the other one must not keep the old value.
+        const bool shownOnce =
+            mState.dictionary.structure(mState.dictionary.field(place.field).structure).grids.isEmpty();
+        const bool known = isOrigin && origin->showsValue && shownOnce;
+        if (!mState.updateUiOnFieldChange || !isShown(place) || known)
             continue;
         const QString id = mState.dictionary.field(place.field).id;
         const QVariant value = mFields.GetValue(id, place.record.number);

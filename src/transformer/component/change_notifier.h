@@ -11,7 +11,7 @@ class ChangeNotifier {
   public:
     ChangeNotifier(ComponentState &state, FieldQueries &fields) : mState(state), mFields(fields) {}
 
-    // The field that the user has just set is left out where it shows the value already.
+    // The field that the user has just set is left out where it shows the value already, and no grid shows it too.
     struct Origin {
         FieldIndex field;
         RecordAddress record;
