@@ -279,7 +279,7 @@ void fldSliderField::showFace() {
 }
 
 QVariant fldSliderField::Ifield_SetName(const QString &Name) {
-    const QVariant shown = LabelledField::Ifield_SetName(Name);
+    QVariant shown = LabelledField::Ifield_SetName(Name);
     nameParts();
     return shown;
 }

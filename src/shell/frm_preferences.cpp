@@ -196,7 +196,8 @@ void frmPreferences::tellNoPorts() {
     mServices.boxes.TranslateMsgBox(QStringLiteral("There appears to be no available COM ports on your "
                                                    "Computer.%0:S You will be unable to Read or Program Radios."),
                                     MessageStyle::kExclamation,
-                                    ProductIdentity::title() + kLineBreak + QStringLiteral("Error No Com Ports"),
+                                    mServices.translation.NLSStr(ProductIdentity::title()) + kLineBreak +
+                                        translated("Error No Com Ports"),
                                     kLineBreak);
     mcboComPort->addItem(translated("No COM Ports"));
     mcboComPort->setCurrentIndex(0);
