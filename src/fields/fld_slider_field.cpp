@@ -99,7 +99,7 @@ void fldSliderField::readProperties(const FieldProperties &properties) {
         Ifield_SetRecordNumber(component().GetNumberOfRecords(Ifield_GetUIID()) == 0 ? 0 : 1);
     else
         Ifield_SetRecordNumber(record);
-    show(value);
+    showNumber(value);
 }
 
 QWidget *fldSliderField::editingPart() const { return mSlider1; }
@@ -125,7 +125,7 @@ void fldSliderField::moveTo(int position) {
     mSlider1->setSliderPosition(mSlider1->value()); // also in the middle of a drag
 }
 
-void fldSliderField::show(const QVariant &value) {
+void fldSliderField::showNumber(const QVariant &value) {
     mValue = value;
     mText1->setText(ValueText::of(value));
     showFace();
@@ -158,7 +158,7 @@ void fldSliderField::Slider1_Change() try {
         moveTo(mSteps.positionOf(number()));
         return;
     }
-    show(wanted);
+    showNumber(wanted);
     raise(FieldEvent(QStringLiteral("Change")));
 }
 ERROR_TAIL()
@@ -214,14 +214,14 @@ void fldSliderField::put(const QVariant &value) {
 bool fldSliderField::Ifield_SetValue(const QVariant &Value, bool blnValidate) try {
     if (!ValueText::isNumeric(Value))
         return true;
-    show(Value);
+    showNumber(Value);
     moveTo(mSteps.positionOf(number()));
     return !blnValidate || raiseManualValidate();
 }
 ERROR_TAIL_AS("SliderField SetValue", false)
 
 void fldSliderField::showNothing() {
-    show(0);
+    showNumber(0);
     mText1->clear();
     moveTo(mSlider1->minimum());
 }
@@ -279,7 +279,7 @@ void fldSliderField::showFace() {
 }
 
 QVariant fldSliderField::Ifield_SetName(const QString &Name) {
-    const QVariant shown = LabelledField::Ifield_SetName(Name);
+    QVariant shown = LabelledField::Ifield_SetName(Name);
     nameParts();
     return shown;
 }

@@ -72,7 +72,7 @@ class fldSliderField final : public LabelledField, public SliderRange {
     // Whether the user may put that number there without moving the slider.
     [[nodiscard]] bool mayBePut(const QVariant &value) const;
     void put(const QVariant &value);
-    void show(const QVariant &value);
+    void showNumber(const QVariant &value);
     void moveTo(int position);
     void enableParts(bool enabled);
     void showParts(bool shown);

@@ -1,8 +1,10 @@
 #include "frm_main_wiring.h"
 
 #include "common_error_handler.h"
+#include "frm_preferences.h"
 #include "product_identity.h"
 #include "program_icons.h"
+#include "serial_ports.h"
 
 #include <QMenu>
 #include <QMenuBar>
@@ -37,7 +39,7 @@ void frmMain::Wiring::nameParts() {
 
 void frmMain::Wiring::connectCommands() {
     // A command that has no row comes with later work and stays disabled.
-    const std::array<std::pair<const char *, std::function<void()>>, 20> commands{{
+    const std::array<std::pair<const char *, std::function<void()>>, 21> commands{{
         {"mnuNew", [this] { documentCommands.mnuNew_Click(); }},
         {"mnuOpen", [this] { documentCommands.mnuOpen_Click(); }},
         {"mnuSave", [this] { documentCommands.mnuSave_Click(); }},
@@ -51,6 +53,7 @@ void frmMain::Wiring::connectCommands() {
         {"mnuPaste", [this] { editCommands.mnuPaste_Click(); }},
         {"mnuDelete", [this] { editCommands.mnuDelete_Click(); }},
         {"mnuSelectAll", [this] { editCommands.mnuSelectAll_Click(); }},
+        {"mnuOptions", [this] { preferences.mnuOptions_Click(); }},
         {"mnuReadRadio", [this] { radio.mnuRead_Click(); }},
         {"mnuProgramRadio", [this] { radio.mnuProgram_Click(); }},
         {"mnuInterrogateRadio", [this] { radio.mnuInterrogateRadio_Click(); }},
@@ -71,4 +74,16 @@ void frmMain::Wiring::connectCommands() {
     QObject::connect(&tree, &FormTreeWidget::NodeChosen, &tree, [this] { navigation.FormTree_NodeClick(); });
     QObject::connect(&menu.Menu(QStringLiteral("mnuEdit")), &QMenu::aboutToShow, &tree,
                      [this] { editCommands.mnuEdit_Click(); });
+}
+
+void frmMain::Wiring::showNewLanguage() {
+    tiers.ShowToolTips();
+    tiers.tbrTiers_ButtonClick(1);
+}
+
+void frmMain::Wiring::showPreferences() {
+    const SerialPorts ports;
+    frmPreferences dialog({with.transformer, with.translation, with.boxes, with.errors, ports}, &window);
+    dialog.Form_Load();
+    dialog.exec();
 }

@@ -26,6 +26,7 @@
 #include "main_error_sink.h"
 #include "main_menu.h"
 #include "pane_layout.h"
+#include "preferences_command.h"
 #include "recent_files.h"
 #include "resizing_area.h"
 #include "shell_tool_bar.h"
@@ -51,6 +52,8 @@ struct frmMain::Wiring {
 
     void connectCommands();
     void nameParts();
+    void showNewLanguage();
+    void showPreferences();
 
     frmMain &window;
     ShellServices with;
@@ -132,12 +135,16 @@ struct frmMain::Wiring {
                       loadFailure, with.processControl},
                      with.errors};
     LanguageSetup language{
-        with.transformer, with.translation, with.boxes, texts, with.errors, [this] { tiers.tbrTiers_ButtonClick(1); }};
+        with.transformer, with.translation, with.boxes, texts, with.errors, [this] { showNewLanguage(); }};
     CommandLine commandLine{with.arguments, with.boxes, with.errors};
     StartUp startUp{with.transformer,
                     {commandLine, loadFailure, language, levels, tiers, tierButtons, host, menu, pointer, documents,
                      with.splash, with.processControl, with.boxes, window},
                     with.errors};
+    PreferencesCommand preferences{
+        with.transformer, with.translation, {host, startUp, navigation, layout, levels, language}, with.errors, [this] {
+            showPreferences();
+        }};
     ShutDown shutDown{
         with.transformer, with.process, {window, position, dialogs, nodes, host, inputFilter, window}, with.errors};
     MainErrorSink errorSink{with.boxes, pointer, shutDown};

@@ -49,11 +49,16 @@ void Tiers::EnableTiers(const QString &tiers) try {
         buttons.Add(key, caption + QStringLiteral("   "));
         addMenuEntry(buttons.Count(), caption, key);
     }
+    ShowToolTips();
+}
+ERROR_TAIL()
+
+void Tiers::ShowToolTips() {
+    TierButtons &buttons = mParts.buttons;
     for (qint32 button = 1; button <= buttons.Count(); ++button)
         buttons.SetToolTip(button, mTranslation.NLSFmt(QStringLiteral("Switch to the %0:S radio model"),
                                                        buttons.Caption(button).trimmed()));
 }
-ERROR_TAIL()
 
 void Tiers::addMenuEntry(qint32 index, const QString &caption, const QString &key) {
     QMenu &menu = mParts.menu.Menu(QStringLiteral("mnuModel"));
