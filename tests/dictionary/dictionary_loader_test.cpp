@@ -51,7 +51,7 @@ void DictionaryLoaderTest::aFaultIsRefusedWithFileOwnerAndKey_data() {
          "members.json: MemberChannel: if: "},
         {"unknown key of a structure", "structures.json", "\"layout\": 7", "\"layouts\": 7",
          "structures.json: file: layouts: "},
-        {"unknown key of an item", "lists.json", "\"level\": 2", "\"levels\": 2", "channels.json: Power: levels: "},
+        {"unknown key of an item", "lists.json", "\"level\": 2", "\"levels\": 2", "lists.json: POWER: levels: "},
         {"missing label", "radio.json", "\"label\": \"Beep\", ", "", "radio.json: Beep: label: "},
         {"label over 24 characters", "radio.json", "\"label\": \"Beep\"", "\"label\": \"Beep at every key pressed\"",
          "radio.json: Beep: label: "},
