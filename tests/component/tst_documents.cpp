@@ -170,15 +170,21 @@ void tst_documents::olderVersionNamesWhatIsLost() {
     QCOMPARE(mComponent->GetVersionLevel(), 2);
     QVERIFY(mComponent->GetProgramAsAvailable());
     QVERIFY(set(*mComponent, "ChannelCompanding", 1));
+    QVERIFY(set(*mComponent, "TxPower_q7r", 0)); // an item that only the newer version has
     mListener.clear();
     mListener.answer = 7;
-    QVERIFY(!save(*mComponent, path("old.k4p"), 1));
-    QVERIFY2(mListener.messages.value(0).contains(QStringLiteral("Companding")),
-             qPrintable(mListener.messages.value(0)));
+    for (const char *const file : {"old.k4p", "old.sqt"}) {
+        QVERIFY(!save(*mComponent, path(file), 1));
+        QVERIFY2(mListener.messages.takeFirst().contains(
+                     QStringLiteral("not be stored: Tx Power (Channels), Companding (Channels).")),
+                 file);
+        QVERIFY(!QFile::exists(path(file)));
+    }
     QCOMPARE(mComponent->GetVersionLevel(), 2);
     mListener.answer = 6;
     QVERIFY(save(*mComponent, path("old.k4p"), 1));
     QCOMPARE(mComponent->GetVersionLevel(), 1);
+    QVERIFY(get(*mComponent, "TxPower_q7r") != QStringLiteral("0"));
     QVERIFY(!mComponent->GetProgramAsAvailable());
     QVERIFY(!mComponent->GetFieldEnabled(QStringLiteral("ChannelCompanding"), 1));
     QVERIFY(!save(*mComponent, path("new.k4p"), 2));
