@@ -48,6 +48,7 @@ constexpr QLatin1StringView kFieldKeys[] = {"id"_L1,
                                             "enabledWhen"_L1,
                                             "width"_L1,
                                             "follows"_L1,
+                                            "followsInRow"_L1,
                                             "whenTargetGoes"_L1,
                                             "number"_L1,
                                             "resetWhenChanges"_L1,
@@ -264,9 +265,13 @@ void FieldParser::readNamedFields(const Pending &pending) {
             continue;
         *target = mNames.field(reader, key, reader.text(key));
         const FieldDefinition &source = mNames.definition(*target);
-        if (source.structure != field.structure || !source.isStored() || !field.isStored())
+        const bool fromParent = key == "follows"_L1 && reader.has("followsInRow"_L1);
+        const StructureIndex home =
+            fromParent ? mNames.parts.structures[field.structure.slot()].parent : field.structure;
+        if (source.structure != home || !source.isStored() || !field.isStored())
             reader.refuse(key, u"\"%1\" must be stored in the same structure"_s.arg(source.id));
     }
+    field.followsInRow = reader.integerOr("followsInRow"_L1, 0);
     for (const QString &id : reader.texts("from"_L1))
         field.reads.push_back(mNames.field(reader, "from"_L1, id));
     field.at = MemoryPlaceParser::read(mNames, field, reader);
