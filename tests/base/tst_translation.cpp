@@ -61,6 +61,9 @@ void tst_Translation::parametersAreTranslatedFirst() {
     const QString list = Translation::Pieces({limit, u"No"_s, u"%0:S"_s}, u", "_s);
     QCOMPARE(translation.NLSFmt(u"%0:S"_s, list), u"mindestens 5 Zyklen, Nein, %0:S"_s);
     QCOMPARE(Translation::Fill(u"%0:S"_s, {list}), u"at least 5 cycles, No, %0:S"_s);
+    const QString inner = Translation::Piece(u"<%0:S>"_s, {limit});
+    QCOMPARE(translation.NLSFmt(u"%0:S"_s, Translation::Pieces({inner, u"No"_s}, u" "_s)),
+             u"<mindestens 5 Zyklen> Nein"_s);
 }
 
 void tst_Translation::partsBeyondTheTwentyFirstAreDropped() {

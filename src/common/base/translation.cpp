@@ -7,9 +7,11 @@
 namespace {
 constexpr qsizetype kMaximumParameters = 21;
 constexpr qint32 kEnglish = 1;
-// Between the pieces of a parameter, and between a piece's text and its parameters. No shown text has them.
+// Between the pieces of a parameter, between a piece's text and its parameters, and between those of a piece inside a
+// piece. No shown text has them.
 constexpr QChar kBetweenPieces(0x1d);
-constexpr QChar kBetweenParts(0x1f);
+constexpr QChar kBetweenParts(0x1e);
+constexpr QChar kBetweenInnerParts(0x1f);
 
 // Length of the placeholder that starts at position, 0 if none does there; number gets its number.
 qsizetype placeholderAt(const QString &text, qsizetype position, int &number) {
@@ -39,16 +41,22 @@ QString filled(const QString &text, const QStringList &parameters) {
     return result;
 }
 
-// A parameter in words, each text of it translated.
-QString ofParameter(const QString &parameter, const std::function<QString(const QString &)> &translate) {
+using Translate = std::function<QString(const QString &)>;
+
+// A text with parameters of its own in words, each translated.
+QString ofParts(const QStringList &parts, const Translate &translate) {
+    QStringList words;
+    for (const QString &part : parts)
+        words.append(part.contains(kBetweenInnerParts) ? ofParts(part.split(kBetweenInnerParts), translate)
+                                                       : translate(part));
+    const QString text = words.takeFirst();
+    return words.isEmpty() ? text : filled(text, words);
+}
+
+QString ofParameter(const QString &parameter, const Translate &translate) {
     QString result;
-    for (const QString &piece : parameter.split(kBetweenPieces)) {
-        QStringList parts = piece.split(kBetweenParts);
-        for (QString &part : parts)
-            part = translate(part);
-        const QString text = parts.takeFirst();
-        result += parts.isEmpty() ? text : filled(text, parts);
-    }
+    for (const QString &piece : parameter.split(kBetweenPieces))
+        result += ofParts(piece.split(kBetweenParts), translate);
     return result;
 }
 } // namespace
@@ -83,7 +91,9 @@ QString Translation::Fill(const QString &text, const QStringList &parameters) {
 }
 
 QString Translation::Piece(const QString &text, const QStringList &parameters) {
-    return (QStringList(text) + parameters).join(kBetweenParts);
+    QStringList inner = parameters;
+    inner.replaceInStrings(QString(kBetweenParts), QString(kBetweenInnerParts));
+    return (QStringList(text) + inner).join(kBetweenParts);
 }
 
 QString Translation::Pieces(const QStringList &pieces, const QString &separator) {
