@@ -73,8 +73,7 @@ void DocumentOperations::SaveFile(const QString &fileName, const QString &commen
                            {mState.dictionary.versionName(present), mState.dictionary.versionName(level)});
         return;
     }
-    const QStringList lost =
-        level < present ? OlderVersion(mState.current(), level).lostFields() : QStringList();
+    const QStringList lost = level < present ? OlderVersion(mState.current(), level).lostFields() : QStringList();
     if (!lost.isEmpty() &&
         !mState.events.ask(
             QStringLiteral("Database version %0:S has no room for these settings, whose values will not be "
