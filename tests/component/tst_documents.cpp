@@ -271,7 +271,23 @@ void tst_documents::copyToOtherTierListsWhatHasNoPlace() {
     mComponent->CopyFieldToTier(QStringLiteral("IsDataChannel_q7r"), QStringLiteral("Basic"));
     QCOMPARE(mListener.messages.size(), 1);
     QVERIFY(mListener.messages.first().contains(QStringLiteral("Data Channel")));
+    // A field of a navigator: the record of the same number; a grid's columns: all of them, identities at once.
+    const QString id = QStringLiteral("ChannelID_q7r");
+    qint32 added = 0;
+    bool ok = false;
+    mComponent->AddRecord(id, QString(), added, ok);
+    mComponent->SetValue(id, QStringLiteral("9"), 1, true, ok);
+    mComponent->SetValue(id, QStringLiteral("1"), 2, true, ok);
+    mComponent->SetValue(QStringLiteral("CurrentChannelNr"), 2, 0, true, ok);
+    QVERIFY(set(*mComponent, "TxPower_q7r", 1));
+    mListener.clear();
+    mComponent->CopyFieldToTier(QStringLiteral("TxPower_q7r"), QStringLiteral("Basic"));
+    QVERIFY2(mListener.messages.takeLast().endsWith(QStringLiteral("not copied: Tx Power (2).")), "no record 2 there");
+    mComponent->CopyFieldToTier(QStringLiteral("ChannelID_q7r|TxPower_q7r"), QStringLiteral("Basic"));
+    QVERIFY(mListener.messages.takeLast().endsWith(QStringLiteral("not copied: ID (2), Tx Power (2).")));
     mComponent->ChangeTier(QStringLiteral("Basic"));
+    QCOMPARE(get(*mComponent, "ChannelID_q7r"), QStringLiteral("9"));
+    QCOMPARE(get(*mComponent, "TxPower_q7r"), QStringLiteral("1"));
     QCOMPARE(get(*mComponent, "EconomyTimer"), QStringLiteral("66"));
 }
 

@@ -20,10 +20,6 @@ class CatalogueTest : public QObject {
     void everyNamedFunctionExists();
     void defaultsPassTheFinalChecks_data() { tiers(); }
     void defaultsPassTheFinalChecks();
-    void bothLimitsAreTakenAndTheirNeighboursRefused_data() { tiers(); }
-    void bothLimitsAreTakenAndTheirNeighboursRefused();
-    void everyOfferedItemGoesInAndComesOut_data() { tiers(); }
-    void everyOfferedItemGoesInAndComesOut();
     void everyValueSurvivesItsShownForm_data() { tiers(); }
     void everyValueSurvivesItsShownForm();
     void crossChecksFindTheirFault_data();
@@ -34,7 +30,6 @@ class CatalogueTest : public QObject {
     void tiers();
     // One record at least of everything that the tier can have.
     [[nodiscard]] TierData filled(TierIndex tier) const;
-    void checkLimits(const TierData &data, const FieldDefinition &field, RecordAddress record) const;
 
     std::unique_ptr<const Dictionary> mDictionary;
 };
@@ -80,62 +75,6 @@ void CatalogueTest::defaultsPassTheFinalChecks() {
     const TierData data(*mDictionary, TierIndex(tier));
     for (const Finding &finding : FinalChecks(data).run())
         QVERIFY2(false, qPrintable(mDictionary->field(finding.field).id + QLatin1Char(' ') + finding.message.text()));
-}
-
-void CatalogueTest::checkLimits(const TierData &data, const FieldDefinition &field, RecordAddress record) const {
-    const ValueValidator validator(data);
-    const NumberLimits limits = FieldReader(data).limits(field.index, record);
-    const qint32 step = limits.rasters.empty() ? limits.step : limits.rasters.front();
-    const auto fault = [&](qint64 stored) {
-        const bool negative = stored < 0;
-        const QString digits = QString::number(negative ? -stored : stored).rightJustified(field.decimals + 1, u'0');
-        QString text = (negative ? QStringLiteral("-") : QString()) + digits;
-        if (field.decimals > 0)
-            text.insert(text.size() - field.decimals, u'.');
-        return faultOf(validator.fromShown(field.index, record, text));
-    };
-    QVERIFY2(!fault(limits.minimum), qPrintable(field.id));
-    QVERIFY2(!fault(limits.maximum), qPrintable(field.id));
-    QVERIFY2(fault(qint64(limits.minimum) - step) == ValueFault::Kind::OutOfRange, qPrintable(field.id));
-    QVERIFY2(fault(qint64(limits.maximum) + step) == ValueFault::Kind::OutOfRange, qPrintable(field.id));
-    if (step > 1)
-        QVERIFY2(fault(limits.minimum + 1) == ValueFault::Kind::OffRaster, qPrintable(field.id));
-    const QString tooFine = ValueCodec::shownNumber(limits.minimum, field.decimals) +
-                            (field.decimals == 0 ? QStringLiteral(".5") : QStringLiteral("5"));
-    const auto fine = faultOf(validator.fromShown(field.index, record, tooFine));
-    QVERIFY2(fine.has_value(), qPrintable(field.id));
-}
-
-void CatalogueTest::bothLimitsAreTakenAndTheirNeighboursRefused() {
-    QFETCH(qint32, tier);
-    const TierData data = filled(TierIndex(tier));
-    int checked = 0;
-    for (const FieldDefinition &field : mDictionary->fields()) {
-        if (field.kind != FieldKind::Number || !field.tiers.contains(TierIndex(tier)))
-            continue;
-        checkLimits(data, field, data.records(field.structure).front());
-        ++checked;
-    }
-    QVERIFY(checked > 30);
-}
-
-void CatalogueTest::everyOfferedItemGoesInAndComesOut() {
-    QFETCH(qint32, tier);
-    const TierData data = filled(TierIndex(tier));
-    for (const FieldDefinition &field : mDictionary->fields()) {
-        if (!field.tiers.contains(TierIndex(tier)) || (!field.hasItems() && field.kind != FieldKind::Reference))
-            continue;
-        const RecordAddress record = data.records(field.structure).back();
-        const std::vector<FieldItem> items = ItemLists(data).items(field.index, record);
-        QVERIFY2(!items.empty(), qPrintable(field.id));
-        for (const FieldItem &item : items) {
-            const QVariant given = field.kind == FieldKind::List ? QVariant(item.value) : QVariant(item.text);
-            const ValueResult taken = ValueValidator(data).fromBoundary(field.index, record, given);
-            QVERIFY2(!faultOf(taken), qPrintable(field.id + QLatin1Char(' ') + item.text));
-            QCOMPARE(std::get<StoredValue>(taken).number(), item.value);
-            QCOMPARE(ValueCodec::boundary(field, item.value), given);
-        }
-    }
 }
 
 void CatalogueTest::everyValueSurvivesItsShownForm() {

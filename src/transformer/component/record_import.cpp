@@ -73,6 +73,12 @@ void RecordImport::makeRecords(const Rows &rows, Outcome &outcome) {
     if (structure.identity.isValid())
         planIdentities(rows, outcome);
     const RecordResult appended = mEditor.appendRecords(rows.structure, rows.parent, mNewIdentities);
+    if (!appended.done()) { // no parent that they could belong to
+        mRecords.resize(rows.targets.size());
+        outcome.noRoom = appended.refusal;
+        outcome.rowsLeft = wanted;
+        outcome.added = 0;
+    }
     Changes unused; // they stand in the images that are taken at the end
     for (std::size_t row = rows.targets.size(); row < mRecords.size(); ++row)
         NewRecords::chooseFreeItems(mData, rows.structure, mRecords[row], unused);
