@@ -60,6 +60,24 @@ void ChangeNotifier::raiseAfterRecords(const Changes &changes) {
     raise(effects, nullptr);
 }
 
+void ChangeNotifier::raiseAfterImport(const Changes &changes) {
+    Changes shown;
+    std::set<StructureIndex> grown;
+    for (const Change &change : changes) {
+        const auto *insert = std::get_if<InsertStep>(&change);
+        if (insert != nullptr && grown.insert(insert->structure).second)
+            shown.push_back(change);
+        const auto *value = std::get_if<ValueStep>(&change);
+        if (value == nullptr)
+            continue;
+        const StructureIndex structure = mState.dictionary.field(value->field).structure;
+        if (value->record.number == mState.positions().position(structure) &&
+            mState.isInScope(structure, value->record))
+            shown.push_back(change);
+    }
+    raiseAfterRecords(shown);
+}
+
 void ChangeNotifier::raise(const Effects &effects, const Origin *origin) {
     const TierData &data = mState.current();
     const auto isShown = [&](const Place &place) {

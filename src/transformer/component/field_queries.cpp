@@ -133,6 +133,7 @@ QStringList FieldQueries::GetDatabaseFieldList() const {
 }
 
 void FieldQueries::FieldGotFocus(const QString &uiid) {
+    mState.focusedField = uiid;
     const FieldDefinition *field = mState.dictionary.find(uiid);
     if (field == nullptr || !field->isNumeric()) {
         mState.events.raise([](TransformerEvents &listener) { listener.TransformerEvents_ClearRange(); });

@@ -23,6 +23,8 @@ StoredValue RecordTable::value(const FieldDefinition &field, qint32 record) cons
 }
 
 void RecordTable::setValue(const FieldDefinition &field, qint32 record, const StoredValue &value) {
+    if (field.kind == FieldKind::Identity)
+        mIdentities.changed(number(field, record), value.number(), record);
     if (field.isTextual())
         mTexts[std::size_t(field.column)][std::size_t(record - 1)] = value.text();
     else
@@ -40,6 +42,10 @@ void RecordTable::insert(qint32 record, const Dictionary &dictionary, const Reco
             mNumbers[column].insert(mNumbers[column].begin() + record - 1, row[i].number());
     }
     ++mCount;
+    if (record < mCount)
+        mIdentities.forget();
+    else if (structure.identity.isValid())
+        mIdentities.appended(number(dictionary.field(structure.identity), record), record);
 }
 
 void RecordTable::remove(qint32 record) {
@@ -48,9 +54,11 @@ void RecordTable::remove(qint32 record) {
     for (auto &column : mTexts)
         column.erase(column.begin() + record - 1);
     --mCount;
+    mIdentities.forget();
 }
 
 void RecordTable::move(qint32 from, qint32 to) {
+    mIdentities.forget();
     for (auto &column : mNumbers)
         moveIn(column, from, to);
     for (auto &column : mTexts)

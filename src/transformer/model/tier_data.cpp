@@ -135,12 +135,10 @@ std::optional<RecordAddress> TierData::recordByIdentity(StructureIndex structure
     const qint32 count = recordCount(structure, parent);
     if (!field.isValid())
         return identity >= 1 && identity <= count ? std::optional(RecordAddress{parent, identity}) : std::nullopt;
-    const FieldDefinition &definition = mDictionary->field(field);
-    for (qint32 number = 1; number <= count; ++number) {
-        if (table(structure, parent).number(definition, number) == identity)
-            return RecordAddress{parent, number};
-    }
-    return std::nullopt;
+    if (count == 0)
+        return std::nullopt;
+    const std::optional<qint32> found = table(structure, parent).findIdentity(mDictionary->field(field), identity);
+    return found ? std::optional(RecordAddress{parent, *found}) : std::nullopt;
 }
 
 RecordRow TierData::rowAt(StructureIndex structure, RecordAddress record) const {
