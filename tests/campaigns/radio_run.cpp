@@ -33,6 +33,12 @@ void RadioRun::killProgrammer() {
     (void)waitForProgrammer(kPatience);
 }
 
+qsizetype RadioRun::linesSaid() {
+    (void)mProgrammer.waitForReadyRead(1);
+    mSaid += QString::fromUtf8(mProgrammer.readAll());
+    return mSaid.count(u'\n');
+}
+
 bool RadioRun::waitForProgrammer(int milliseconds) {
     const bool ended = mProgrammer.state() == QProcess::NotRunning || mProgrammer.waitForFinished(milliseconds);
     mSaid += QString::fromUtf8(mProgrammer.readAll());

@@ -14,8 +14,11 @@ class RadioRun {
     // Starts the radio (with the options) and, if that works, the programmer.
     [[nodiscard]] bool start(const QStringList &radioOptions);
     void killProgrammer();
+    // Takes up what the programmer has written until now; the number of its lines. Waits a moment at most.
+    [[nodiscard]] qsizetype linesSaid();
     // False if the programmer has not ended in time.
     [[nodiscard]] bool waitForProgrammer(int milliseconds);
+    [[nodiscard]] bool hasEnded() const { return mProgrammer.state() == QProcess::NotRunning; }
     void stopRadio() { mRadio.terminate(); }
 
     [[nodiscard]] SimProcess &radio() { return mRadio; }
