@@ -12,7 +12,6 @@
 #include <QFileInfo>
 
 using Timing::atMost;
-using Timing::median;
 
 namespace {
 constexpr int kRuns = 9;
@@ -64,47 +63,49 @@ void requireDone(bool ok, const char *what) {
 
 void FigureGroups::component(Figures &figures) {
     const QString ms = QStringLiteral("ms");
-    figures.add(QStringLiteral("dictionary load"), median(kRuns, [] { (void)DictionaryLoader::loadCompiledIn(); }), ms);
+    figures.add(QStringLiteral("dictionary load"),
+                figures.median(kRuns, [] { (void)DictionaryLoader::loadCompiledIn(); }), ms);
     BenchComponent bench;
     TransformerComponent &transformer = bench.transformer;
     const Dictionary &dictionary = transformer.dictionary();
-    figures.add(QStringLiteral("new data set, all tiers"), median(kRuns, [&] { const DataSet fresh(dictionary); }), ms);
+    figures.add(QStringLiteral("new data set, all tiers"),
+                figures.median(kRuns, [&] { const DataSet fresh(dictionary); }), ms);
 
     transformer.ChangeTier(QStringLiteral("Advanced"));
     FullData(transformer).fill();
     qint64 values = 0;
-    const double sweepTime = median(kRuns, [&] { values = sweep(transformer); });
+    const double sweepTime = figures.median(kRuns, [&] { values = sweep(transformer); });
     figures.add(QStringLiteral("GetValue sweep of %1 values, per value").arg(values), sweepTime * 1000 / double(values),
                 QStringLiteral("us"), atMost(0.5));
 
     const QString file = bench.folder.filePath(QStringLiteral("full.k4p"));
     bool ok = false;
     figures.add(QStringLiteral("save of a full Advanced file"),
-                median(kRuns, [&] { transformer.SaveFile(file, QString(), 0, ok); }), ms, atMost(80));
+                figures.median(kRuns, [&] { transformer.SaveFile(file, QString(), 0, ok); }), ms, atMost(80));
     requireDone(ok, "SaveFile");
     figures.add(QStringLiteral("size of the file"), double(QFileInfo(file).size()) / 1024, QStringLiteral("KiB"));
     BenchComponent reader;
-    figures.add(QStringLiteral("load of it"), median(kRuns, [&] { reader.transformer.ReadFile(file, 0, 0, false); }),
-                ms, atMost(80));
+    figures.add(QStringLiteral("load of it"),
+                figures.median(kRuns, [&] { reader.transformer.ReadFile(file, 0, 0, false); }), ms, atMost(80));
     requireDone(reader.transformer.GetFileName() == file, "ReadFile");
     figures.add(QStringLiteral("check of it"),
-                median(kRuns, [&] { (void)FinalChecks(reader.transformer.state().current()).run(); }), ms);
+                figures.median(kRuns, [&] { (void)FinalChecks(reader.transformer.state().current()).run(); }), ms);
 
     const QString columns = columnsOf(QStringLiteral("usrctlChannelsKX4600"), QStringLiteral("Channels9000"));
     XArrayDB rows;
     figures.add(QStringLiteral("refill of 2,000 rows, %1 columns").arg(columns.count(u'|') + 1),
-                median(kRuns, [&] { transformer.GetGridData(columns, true, rows, 0, ok); }), ms, atMost(16));
+                figures.median(kRuns, [&] { transformer.GetGridData(columns, true, rows, 0, ok); }), ms, atMost(16));
     requireDone(ok && rows.UpperBound(1) == 1999, "GetGridData");
     qint32 turn = 0;
     figures.add(QStringLiteral("one cell edit"),
-                median(kRuns * 10,
-                       [&] {
-                           const QString value = QString::number(150 + ++turn % 2);
-                           transformer.SetValue(QStringLiteral("RxFreq_q7r"), value, 1000, true, ok);
-                       }),
+                figures.median(kRuns * 10,
+                               [&] {
+                                   const QString value = QString::number(150 + ++turn % 2);
+                                   transformer.SetValue(QStringLiteral("RxFreq_q7r"), value, 1000, true, ok);
+                               }),
                 ms, atMost(16));
     requireDone(ok, "SetValue");
     figures.add(QStringLiteral("column sort"),
-                median(kRuns, [&] { transformer.SortColumn(QStringLiteral("RxFreq_q7r"), ++turn % 2 == 0); }), ms,
-                atMost(16));
+                figures.median(kRuns, [&] { transformer.SortColumn(QStringLiteral("RxFreq_q7r"), ++turn % 2 == 0); }),
+                ms, atMost(16));
 }

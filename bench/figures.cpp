@@ -1,11 +1,11 @@
 #include "figures.h"
 
-#include <QElapsedTimer>
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 #include <vector>
 
 namespace {
@@ -16,6 +16,11 @@ QString verdict(double value, const std::optional<Budget> &budget) {
         .arg(budget->kind == Budget::Kind::AtMost ? QStringLiteral("<") : QStringLiteral(">"))
         .arg(budget->limit)
         .arg(budget->isKept(value) ? QStringLiteral("ok") : QStringLiteral("MISSED"));
+}
+double milliseconds(Figures::Clock clock) {
+    timespec now{};
+    ::clock_gettime(clock == Figures::Clock::Elapsed ? CLOCK_MONOTONIC : CLOCK_PROCESS_CPUTIME_ID, &now);
+    return double(now.tv_sec) * 1e3 + double(now.tv_nsec) / 1e6;
 }
 } // namespace
 
@@ -44,14 +49,13 @@ void Figures::finish() const {
         std::fputs(QJsonDocument(mKept).toJson().constData(), stdout);
 }
 
-double Timing::median(int runs, const std::function<void()> &work) {
+double Figures::median(int runs, const std::function<void()> &work) const {
     work();
     std::vector<double> times;
     for (int run = 0; run < runs; ++run) {
-        QElapsedTimer timer;
-        timer.start();
+        const double start = milliseconds(mClock);
         work();
-        times.push_back(double(timer.nsecsElapsed()) / 1e6);
+        times.push_back(milliseconds(mClock) - start);
     }
     std::ranges::nth_element(times, times.begin() + runs / 2);
     return times[std::size_t(runs / 2)];

@@ -22,7 +22,9 @@ constexpr std::array kGroups{
 };
 
 int usage(std::FILE *stream, int exitCode) {
-    std::fputs("usage: kx4600bench [--json] [GROUP ...]\n", stream);
+    std::fputs("usage: kx4600bench [--json] [--cpu] [GROUP ...]\n"
+               "  --cpu      time of this process on the processor, for a busy machine (group component alone)\n",
+               stream);
     for (const Group &group : kGroups)
         std::fprintf(stream, "  %-10s %s\n", group.name, group.about);
     return exitCode;
@@ -42,9 +44,11 @@ int main(int argc, char *argv[]) {
     if (words.contains(QStringLiteral("--help")))
         return usage(stdout, 0);
     const bool isJson = words.removeAll(QStringLiteral("--json")) > 0;
+    const bool isCpu = words.removeAll(QStringLiteral("--cpu")) > 0;
     if (!std::ranges::all_of(words, isGroup))
         return usage(stderr, 2);
-    Figures figures(isJson ? Figures::Form::Json : Figures::Form::Lines);
+    Figures figures(isJson ? Figures::Form::Json : Figures::Form::Lines,
+                    isCpu ? Figures::Clock::Processor : Figures::Clock::Elapsed);
     int exitCode = 0;
     for (const Group &group : kGroups) {
         const QString name = QString::fromLatin1(group.name);

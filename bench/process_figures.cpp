@@ -24,13 +24,13 @@ void FigureGroups::process(Figures &figures) {
                                QString::fromUtf8(process.readLine() + process.readAllStandardError()));
     };
     figures.add(QStringLiteral("kx4600ctl check of a full file"),
-                Timing::median(kRuns,
+                figures.median(kRuns,
                                [&] {
                                    run({QStringLiteral("check"), file});
                                }),
                 QStringLiteral("ms"), Timing::atMost(100));
     figures.add(QStringLiteral("kx4600ctl info of it"),
-                Timing::median(kRuns,
+                figures.median(kRuns,
                                [&] {
                                    run({QStringLiteral("info"), file});
                                }),
