@@ -18,6 +18,7 @@ struct Group {
 constexpr std::array kGroups{
     Group{"component", "dictionary, model, files, checks and grids", FigureGroups::component},
     Group{"process", "kx4600ctl as a whole process", FigureGroups::process},
+    Group{"window", "starts of the real window, its forms and keystrokes, offscreen", FigureGroups::window},
     Group{"radio", "a full radio of each tier over the simulated radio; takes some minutes", FigureGroups::radio},
 };
 

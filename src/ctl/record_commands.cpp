@@ -8,7 +8,7 @@ namespace {
 using RecordChange = std::function<void(const QString &guide, qint32 number, bool &ok)>;
 
 Address guideAddress(const ToolSession &session) {
-    const Address address = Address::parse(session.arguments().rest()[1]);
+    Address address = Address::parse(session.arguments().rest()[1]);
     if (address.parent > 0 && !session.structure(address.uiid).parent.isValid())
         throw UsageError(QStringLiteral("%1 has no parent record: write %1(N)").arg(address.uiid));
     return address;
