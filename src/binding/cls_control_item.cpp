@@ -3,6 +3,7 @@
 #include "common_error_handler.h"
 #include "ctl_form_enabler.h"
 #include "message_style.h"
+#include "record_errors.h"
 
 #include <algorithm>
 #include <type_traits>
@@ -67,6 +68,9 @@ constexpr Route kRoutes[] = {
     {u"SetProviderUpdateUIOnFieldChange", &setProviderUpdate},
     {u"ValidateForm", &validateForm},
 };
+
+// The events of a grid whose command tells an error 91 itself.
+constexpr QStringView kRecordOperations[] = {u"AddRecord", u"InsertRecord", u"RepeatRecord", u"DeleteRecord"};
 } // namespace
 
 clsControlItem::clsControlItem(const FieldServices &services) : mServices(services), mErrors(services.errors) {}
@@ -169,5 +173,9 @@ void clsControlItem::route(const FieldEvent &event) try {
     }
     if (const auto enabler = mEnabler.lock())
         found->handler(*enabler, shared_from_this(), event);
+} catch (...) {
+    if (std::ranges::find(kRecordOperations, QStringView(event.name())) != std::end(kRecordOperations))
+        passMissingObject(mErrors, "frmField_ObjectEvent");
+    else
+        mErrors.Tail("frmField_ObjectEvent");
 }
-ERROR_TAIL_AS("frmField_ObjectEvent")

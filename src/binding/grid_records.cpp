@@ -7,6 +7,7 @@
 #include "igrid.h"
 #include "inavigator.h"
 #include "navigator_records.h"
+#include "record_errors.h"
 #include "record_rows.h"
 #include "transformer.h"
 
@@ -51,8 +52,9 @@ void GridRecords::Notify_AddRecord(const ControlItemPtr &item) try {
         Inavigator &navigator = bound->as<Inavigator>();
         navigator.Inavigator_Position(navigator.Inavigator_NumberRecords());
     }
+} catch (...) {
+    passMissingObject(mErrors, __func__);
 }
-ERROR_TAIL()
 
 void GridRecords::Notify_InsertRecord(const ControlItemPtr &item) try {
     const qint32 current = item->Field().Ifield_GetRecordNr();
@@ -63,8 +65,9 @@ void GridRecords::Notify_InsertRecord(const ControlItemPtr &item) try {
         fetchRow(item, record,
                  [record](Igrid &grid, const XArrayDB &row) { grid.Igrid_InsertRow(row, rowOfRecord(record)); });
     refreshNavigators(item);
+} catch (...) {
+    passMissingObject(mErrors, __func__);
 }
-ERROR_TAIL()
 
 void GridRecords::Notify_RepeatRecord(const ControlItemPtr &item) try {
     const qint32 record = item->Field().Ifield_GetRecordNr();
@@ -77,8 +80,9 @@ void GridRecords::Notify_RepeatRecord(const ControlItemPtr &item) try {
         fetchRow(item, copy,
                  [copy](Igrid &grid, const XArrayDB &row) { grid.Igrid_InsertRow(row, rowOfRecord(copy)); });
     refreshNavigators(item);
+} catch (...) {
+    passMissingObject(mErrors, __func__);
 }
-ERROR_TAIL()
 
 void GridRecords::Notify_DeleteRecord(const ControlItemPtr &item, const FieldEvent &event) try {
     std::vector<std::pair<ControlItemPtr, qint32>> positions;
@@ -99,8 +103,9 @@ void GridRecords::Notify_DeleteRecord(const ControlItemPtr &item, const FieldEve
         return;
     for (const auto &[navigator, position] : positions)
         mNavigators.moveAfterDelete(navigator, position);
+} catch (...) {
+    passMissingObject(mErrors, __func__);
 }
-ERROR_TAIL()
 
 void GridRecords::Notify_ImportRecordByPaste(const ControlItemPtr &item, const FieldEvent &event) try {
     if (!mServices.clipboard.HasText())

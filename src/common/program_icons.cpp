@@ -9,12 +9,16 @@
 
 namespace {
 // By ProgramIcon.
-constexpr std::array<QLatin1String, 18> kFiles{
-    QLatin1String("new"),         QLatin1String("open"),       QLatin1String("save"),       QLatin1String("print"),
-    QLatin1String("revert"),      QLatin1String("validate"),   QLatin1String("accept"),     QLatin1String("reject"),
-    QLatin1String("whats-this"),  QLatin1String("help"),       QLatin1String("read"),       QLatin1String("program"),
-    QLatin1String("interrogate"), QLatin1String("tick-white"), QLatin1String("tick-green"), QLatin1String("group"),
-    QLatin1String("application"), QLatin1String("splash"),
+constexpr std::array<QLatin1String, 26> kFiles{
+    QLatin1String("new"),           QLatin1String("open"),          QLatin1String("save"),
+    QLatin1String("print"),         QLatin1String("revert"),        QLatin1String("validate"),
+    QLatin1String("accept"),        QLatin1String("reject"),        QLatin1String("whats-this"),
+    QLatin1String("help"),          QLatin1String("read"),          QLatin1String("program"),
+    QLatin1String("interrogate"),   QLatin1String("tick-white"),    QLatin1String("tick-green"),
+    QLatin1String("group"),         QLatin1String("application"),   QLatin1String("splash"),
+    QLatin1String("first"),         QLatin1String("back"),          QLatin1String("forward"),
+    QLatin1String("last"),          QLatin1String("record-add"),    QLatin1String("record-insert"),
+    QLatin1String("record-repeat"), QLatin1String("record-delete"),
 };
 
 QByteArray drawingOf(ProgramIcon icon) {

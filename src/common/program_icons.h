@@ -24,6 +24,14 @@ enum class ProgramIcon {
     kGroup,
     kApplication,
     kSplash, // 3 to 2
+    kFirst,  // moves between records
+    kBack,
+    kForward,
+    kLast,
+    kRecordAdd,
+    kRecordInsert,
+    kRecordRepeat,
+    kRecordDelete,
 };
 
 [[nodiscard]] QIcon loadIcon(ProgramIcon icon);

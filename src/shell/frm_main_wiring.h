@@ -10,6 +10,7 @@
 #include "document_shell_adapter.h"
 #include "edit_commands.h"
 #include "event_sink.h"
+#include "features_menu.h"
 #include "field_details.h"
 #include "file_io.h"
 #include "filter_tabs.h"
@@ -67,6 +68,7 @@ struct frmMain::Wiring {
 
     // Menus, bars and panels; the window owns the widgets
     MainMenu menu{*window.menuBar(), texts};
+    FeaturesMenu features{*window.menuBar(), with.translation, with.errors};
     ToolBarCommands toolBarCommands{menu};
     ResizingArea &area{*new ResizingArea(&window)};
     ShellToolBar standardBar{&area,
@@ -120,7 +122,7 @@ struct frmMain::Wiring {
     // Tiers, events, beginning and end
     Tiers tiers{with.transformer,
                 with.translation,
-                {tierButtons, menu, filterTabs, nodes, host, navigation, layout, levels, ticks, title, panels,
+                {tierButtons, menu, features, filterTabs, nodes, host, navigation, layout, levels, ticks, title, panels,
                  userEvents, loadFailure, documents},
                 with.errors};
     TierDrag tierDrag{with.transformer, tierButtons, details, with.errors};

@@ -25,6 +25,8 @@ class tst_Records : public QObject {
     void gridCommands();
     void gridDelete_data();
     void gridDelete();
+    void aMissingObjectReachesTheGridsCommand_data();
+    void aMissingObjectReachesTheGridsCommand();
     void pasteNeedsText();
     void dropGivesTheFocusBack();
     void formClosedInsideAMove();
@@ -340,6 +342,34 @@ void tst_Records::gridDelete() {
     grid.raise(FieldEvent(u"DeleteRecord"_s, out(deletedOK)));
     QTEST(deletedOK, "deletedOK");
     QTEST(form.log.take().mid(2), "lines");
+}
+
+void tst_Records::aMissingObjectReachesTheGridsCommand_data() {
+    QTest::addColumn<QString>("event");
+    for (const char *event : {"AddRecord", "InsertRecord", "RepeatRecord", "DeleteRecord"})
+        QTest::newRow(event) << QString::fromLatin1(event);
+}
+
+void tst_Records::aMissingObjectReachesTheGridsCommand() {
+    QFETCH(const QString, event);
+    BoundForm form;
+    auto &grid = form.add<FakeGrid>(u"grdFreq"_s, u"Freq|Name"_s);
+    bool deleted = false;
+    const FieldEvent command(event, out(deleted));
+    form.bind();
+    form.component.when(event).raises({ErrorNumber::kMissingObject, {}, u"not set"_s});
+    QString told;
+    try {
+        grid.raise(command);
+    } catch (const RunTimeError &error) {
+        QCOMPARE(error.Number, ErrorNumber::kMissingObject);
+        told = error.Description;
+    }
+    QVERIFY2(told.contains(u"Notify_"_s + event) && told.contains(u"frmField_ObjectEvent"_s), qPrintable(told));
+    form.component.when(event).raises({ErrorNumber::kConversion, {}, u"mismatch"_s});
+    form.services.errorSink.expectReport();
+    grid.raise(command);
+    QCOMPARE(form.services.errorSink.reports().size(), 1);
 }
 
 void tst_Records::pasteNeedsText() {

@@ -9,7 +9,7 @@
 #include <functional>
 
 // Writes down every event of a component in one line each, and answers its questions.
-class ComponentListener final : public TransformerEvents, public ProgressEvents {
+class ComponentListener : public TransformerEvents, public ProgressEvents {
   public:
     QStringList log;                                  // all events, "UpdateUIFieldByUIID EconomyTimer 0 20"
     QStringList messages;                             // texts of message boxes, filled

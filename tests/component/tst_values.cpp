@@ -33,6 +33,7 @@ class tst_values : public QObject {
     void revertTakesBackRecordOperations();
     void lowerAccessLevelLocksFields();
     void comboValuesServeWhereItemsAreMissing();
+    void editTellsWhichFormsItMakesAvailable();
 
   private:
     bool set(const QString &uiid, const QVariant &value, qint32 record = 1) {
@@ -331,7 +332,27 @@ void tst_values::comboValuesServeWhereItemsAreMissing() {
         QVERIFY(mComponent->GetComboItems(field.id, 1, items, scope));
         const QString values = mComponent->GetIsComboIndex(field.id);
         QVERIFY2(values.isEmpty() || values.count(u'|') == items.UpperBound(1), qPrintable(field.id));
+        // A field of a form is filled with its list before a navigator has given it a record.
+        const qint32 last = items.UpperBound(1);
+        QVERIFY(mComponent->GetComboItems(field.id, 0, items, scope));
+        QVERIFY2(!field.scope.isEmpty() || items.UpperBound(1) == last, qPrintable(field.id));
     }
+}
+
+void tst_values::editTellsWhichFormsItMakesAvailable() {
+    const auto told = [this] {
+        const QStringList lines = mListener->of(QStringLiteral("EnableDisableFormItem"));
+        mListener->clear();
+        return lines.join(u'|');
+    };
+    mComponent->RefreshFormList();
+    (void)told();
+    QVERIFY(set(QStringLiteral("SignallingType"), 1));
+    QCOMPARE(told(), QStringLiteral("EnableDisableFormItem Features 1|EnableDisableFormItem Alerts 1"));
+    QVERIFY(set(QStringLiteral("TxDurationTimer"), 100));
+    QCOMPARE(told(), QString());
+    mComponent->RevertFormData(mComponent->GetCurrentTier());
+    QCOMPARE(told(), QStringLiteral("EnableDisableFormItem Features 0|EnableDisableFormItem Alerts 0"));
 }
 
 QTEST_GUILESS_MAIN(tst_values)

@@ -2,6 +2,7 @@
 #include "form_factory.h"
 #include "ienabler.h"
 #include "ifield.h"
+#include "inavigator.h"
 #include "recording_transformer.h"
 #include "test_services.h"
 
@@ -66,6 +67,7 @@ class DataFormTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("setTabOrder"))); }
     void noShownControlOverlapsOrIsCut_data();
     void noShownControlOverlapsOrIsCut();
     void formWithAControlThatCannotBeMadeIsRefused_data();
@@ -79,6 +81,8 @@ class DataFormTest : public QObject {
     void activeControlIsTheFieldNotItsFrame();
     void closingFromInsideItsOwnFieldIsSafe();
     void terminatedFormHearsNothingMore();
+    void outerNavigatorSendsTheInnerOneToItsFirstRecord();
+    void invalidFormHoldsTheNavigator();
 };
 
 void DataFormTest::noShownControlOverlapsOrIsCut_data() {
@@ -138,7 +142,7 @@ void DataFormTest::formWithAControlThatCannotBeMadeIsRefused() {
             FormDefinition definition;
             definition.name = name;
             definition.enabler.typeName = QStringLiteral("ctlFormEnabler");
-            definition.controls.push_back({QStringLiteral("a"), QStringLiteral("fldTrigger"), {}, {}});
+            definition.controls.push_back({QStringLiteral("a"), QStringLiteral("fldNothing"), {}, {}});
             DataForm form(definition, bench.services.fieldServices(), nullptr);
             form.Build(ControlRegistry());
         }
@@ -266,6 +270,78 @@ void DataFormTest::terminatedFormHearsNothingMore() {
     QCOMPARE(field->Ifield_WrapperCtrlItem(), nullptr);
     form.reset();
     QCOMPARE(enabler->Ienabler_GetActiveControl(), nullptr);
+}
+
+namespace {
+ControlDefinition navigator(const QString &name, int stream, const QString &inner) {
+    return {name,
+            QStringLiteral("fldPageNavigator"),
+            {{QStringLiteral("NavigatorStream"), stream},
+             {QStringLiteral("GuideUIID"), name + QStringLiteral("Guide")},
+             {QStringLiteral("PositionStorageUIID"), name + QStringLiteral("Stored")},
+             {QStringLiteral("SliderStyle"), 1},
+             {QStringLiteral("SubNavigator"), inner}},
+            {}};
+}
+
+// Two navigators of five records each, at the records 2 and 4, and a text field in the stream of each.
+struct NestedNavigators {
+    Bench bench;
+    FormDefinition definition;
+    std::unique_ptr<DataForm> form;
+
+    NestedNavigators() {
+        bench.component.when(QStringLiteral("GetNumberOfRecords")).answers(5);
+        bench.component.when(QStringLiteral("GetValue"), QStringLiteral("navOuterStored")).answers(2);
+        bench.component.when(QStringLiteral("GetValue"), QStringLiteral("navInnerStored")).answers(4);
+        definition.name = QStringLiteral("usrctlTest");
+        definition.enabler.typeName = QStringLiteral("ctlFormEnabler");
+        for (const int stream : {1, 2}) {
+            const QString name = QStringLiteral("Text%1").arg(stream);
+            definition.controls.push_back({name,
+                                           QStringLiteral("fldTextField"),
+                                           {{QStringLiteral("ID"), name}, {QStringLiteral("NavigatorStream"), stream}},
+                                           {}});
+        }
+        definition.controls.push_back(navigator(QStringLiteral("navInner"), 2, {}));
+        definition.controls.push_back(navigator(QStringLiteral("navOuter"), 1, QStringLiteral("navInner")));
+        form = std::make_unique<DataForm>(definition, bench.services.fieldServices(), &bench.window);
+        form->Build(ControlRegistry());
+        form->Iusrfrm_Enabler()->Ienabler_InitialiseFields(-1);
+        (void)bench.log.take();
+    }
+    [[nodiscard]] Inavigator &at(const char *name) const {
+        return dynamic_cast<Inavigator &>(*controlOf(*form, QString::fromLatin1(name))->object());
+    }
+    [[nodiscard]] QString records() const {
+        QStringList shown;
+        for (const char *name : {"navOuter", "Text1", "navInner", "Text2"})
+            shown << QString::number(controlOf(*form, QString::fromLatin1(name))->object()->Ifield_GetRecordNr());
+        return shown.join(u' ');
+    }
+};
+} // namespace
+
+void DataFormTest::outerNavigatorSendsTheInnerOneToItsFirstRecord() {
+    const NestedNavigators nested;
+    // The outer stands behind the inner: restoring its position has moved the inner one already.
+    QCOMPARE(nested.records(), QStringLiteral("2 2 1 1"));
+    nested.at("navInner").Inavigator_Position(3);
+    QCOMPARE(nested.records(), QStringLiteral("2 2 3 3"));
+    nested.at("navOuter").Inavigator_Position(5);
+    QCOMPARE(nested.records(), QStringLiteral("5 5 1 1"));
+    const QStringList stored = nested.bench.log.linesOf(QStringLiteral("SetValue"));
+    QCOMPARE(stored.join(u' '),
+             QStringLiteral("SetValue(navInnerStored, 3, 1, true) SetValue(navOuterStored, 5, 1, true) "
+                            "SetValue(navInnerStored, 1, 1, true)"));
+}
+
+void DataFormTest::invalidFormHoldsTheNavigator() {
+    NestedNavigators nested;
+    nested.bench.component.when(QStringLiteral("ValidateForm")).refuses();
+    nested.at("navOuter").Inavigator_Position(5);
+    QCOMPARE(nested.records(), QStringLiteral("2 2 1 1"));
+    QCOMPARE(nested.bench.log.linesOf(QStringLiteral("SetValue")), QStringList());
 }
 
 QTEST_MAIN(DataFormTest)

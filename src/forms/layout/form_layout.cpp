@@ -8,7 +8,7 @@
 namespace {
 constexpr Twips kMargin{60};
 constexpr Twips kPageMargin{90};
-constexpr Twips kNavigatorHeight{600};
+constexpr Twips kNavigatorHeight{540};
 
 std::vector<const ControlDefinition *> pointers(const std::vector<ControlDefinition> &controls, bool navigators) {
     std::vector<const ControlDefinition *> result;

@@ -89,12 +89,25 @@ bool TierOperations::isFormEnabled(const QString &form) const {
 }
 
 void TierOperations::RefreshFormList() {
+    mToldEnabled.clear();
+    for (const TreeEntry &entry : mState.dictionary.tree(mState.tier()))
+        tellForm(entry);
+}
+
+void TierOperations::tellChangedForms() {
     for (const TreeEntry &entry : mState.dictionary.tree(mState.tier())) {
-        const bool enable = isFormEnabled(entry.form);
-        const QString name = QString(entry.caption).remove(u'&');
-        mState.events.raise(
-            [&](TransformerEvents &listener) { listener.TransformerEvents_EnableDisableFormItem(name, enable); });
+        const auto told = mToldEnabled.constFind(entry.form);
+        if (told != mToldEnabled.constEnd() && *told != isFormEnabled(entry.form))
+            tellForm(entry);
     }
+}
+
+void TierOperations::tellForm(const TreeEntry &entry) {
+    const bool enable = isFormEnabled(entry.form);
+    mToldEnabled.insert(entry.form, enable);
+    const QString name = QString(entry.caption).remove(u'&');
+    mState.events.raise(
+        [&](TransformerEvents &listener) { listener.TransformerEvents_EnableDisableFormItem(name, enable); });
 }
 
 bool TierOperations::GetFormAvailable(const QString &formKey) const {

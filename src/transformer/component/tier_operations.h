@@ -29,6 +29,8 @@ class TierOperations {
     [[nodiscard]] FormTreeLists lists() const;
     [[nodiscard]] bool GetTreeNodeHasData(const QString &nodeKey) const;
     void RefreshFormList();
+    // After an edit: raises the event only for forms that have become available or unavailable by it.
+    void tellChangedForms();
     [[nodiscard]] bool GetFormAvailable(const QString &formKey) const;
 
     // Tree text and index of the form that counts as current, kept for each tier.
@@ -44,7 +46,9 @@ class TierOperations {
     };
     [[nodiscard]] qint32 lowestAccess(const TreeEntry &entry) const;
     [[nodiscard]] bool isFormEnabled(const QString &form) const;
+    void tellForm(const TreeEntry &entry);
 
     ComponentState &mState;
     std::map<TierIndex, CurrentForm> mForms;
+    QHash<QString, bool> mToldEnabled; // of the forms of the tree that was last refreshed
 };

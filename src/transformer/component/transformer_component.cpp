@@ -88,10 +88,12 @@ void TransformerComponent::GetIDItems(const QString &UIID, qint32 RecordNr, XArr
 void TransformerComponent::SetValue(const QString &UIID, const QVariant &Value, qint32 RecordNr, bool /*Validate*/,
                                     bool &OK) {
     mEdits->SetValue(UIID, Value, RecordNr, OK);
+    mTiers->tellChangedForms();
 }
 void TransformerComponent::FieldExitFocusValue(const QString &UIID, const QVariant &Value, qint32 RecordNr,
                                                bool &Result) {
     mEdits->SetValue(UIID, Value, RecordNr, Result);
+    mTiers->tellChangedForms();
 }
 void TransformerComponent::FieldEnterFocusValue(const QString & /*UIID*/, const QVariant & /*Value*/,
                                                 qint32 /*RecordNr*/, bool &Result) {
@@ -113,15 +115,19 @@ bool TransformerComponent::FireTrigger(const QString & /*UIID*/) { return true; 
 // Records
 void TransformerComponent::AddRecord(const QString &UIID, const QString & /*GridID*/, qint32 &RecordNr, bool &OK) {
     mRecords->AddRecord(UIID, RecordNr, OK);
+    mTiers->tellChangedForms();
 }
 void TransformerComponent::InsertRecord(const QString &UIID, qint32 RecordNr, const QString & /*GridID*/, bool &OK) {
     mRecords->InsertRecord(UIID, RecordNr, OK);
+    mTiers->tellChangedForms();
 }
 void TransformerComponent::RepeatRecord(const QString &UIID, qint32 RecordNr, const QString & /*GridID*/, bool &OK) {
     mRecords->RepeatRecord(UIID, RecordNr, OK);
+    mTiers->tellChangedForms();
 }
 void TransformerComponent::DeleteRecord(const QString &UIID, qint32 RecordNr, bool &OK) {
     mRecords->DeleteRecord(UIID, RecordNr, OK);
+    mTiers->tellChangedForms();
 }
 void TransformerComponent::SortColumn(const QString &UIID, bool Ascending) { mRecords->SortColumn(UIID, Ascending); }
 bool TransformerComponent::GetRecordDeletedRefreshNeeded() { return true; }
@@ -147,7 +153,10 @@ bool TransformerComponent::ImportRecordByDrop(const QString & /*GridID*/, const 
 qint32 TransformerComponent::GetSaveAllowed() { return mState->journal.formIsDirty() ? 1 : 0; }
 bool TransformerComponent::GetFormIsDirty() { return mState->journal.formIsDirty(); }
 void TransformerComponent::SaveForm(const QString &TierKey) { mForms->SaveForm(TierKey); }
-void TransformerComponent::RevertFormData(const QString &TierKey) { mForms->RevertFormData(TierKey); }
+void TransformerComponent::RevertFormData(const QString &TierKey) {
+    mForms->RevertFormData(TierKey);
+    mTiers->tellChangedForms();
+}
 void TransformerComponent::ValidateForm(const QString &FormTypeName, const QString & /*FormCaption*/, bool Validate,
                                         bool &OK) {
     OK = true;

@@ -9,7 +9,9 @@
 
 std::vector<FieldItem> ItemLists::items(FieldIndex index, RecordAddress record) const {
     const FieldDefinition &field = mReader.dictionary().field(index);
-    if (!mReader.data().exists(field.structure, record))
+    // The same in every record: a field has its list before it shows any.
+    const bool anyRecord = field.hasItems() && field.scope.isEmpty();
+    if (!anyRecord && !mReader.data().exists(field.structure, record))
         return {};
     if (field.hasItems())
         return fixedItems(field, record);

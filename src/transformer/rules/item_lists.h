@@ -13,8 +13,8 @@ class ItemLists {
   public:
     explicit ItemLists(const TierData &data) : mReader(data) {}
 
-    // All items that the record may take now, in order. Empty for other kinds and for a record that does not exist.
-    // An identity offers its own number and the next free ones.
+    // All items that the record may take now, in order. Empty for other kinds, and for a record that does not exist
+    // unless the items are the same in every record. An identity offers its own number and the next free ones.
     [[nodiscard]] std::vector<FieldItem> items(FieldIndex field, RecordAddress record) const;
     // True: the list is not the same for every record (scope 2 of a combo list).
     [[nodiscard]] bool differsByRecord(FieldIndex field) const;

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "grid_cell_writer.h"
+#include "window_services.h"
+
+#include <optional>
+
+class GridSurface;
+struct GridColumnFacts;
+
+// The edit commands of a grid. Selected rows are copied as records, a cell as its value; pasted text of several values
+// goes to the component as records, one value into the current cell. Text is read with either kind of line end and
+// written with CR LF.
+class GridClipboard {
+  public:
+    // Both outlive this.
+    GridClipboard(GridSurface &grid, const FieldServices &services);
+
+    // Bits: 1 cut, 2 copy, 4 paste.
+    [[nodiscard]] qint32 Ifield_GetEditOperations();
+    // With nothing to copy the clipboard becomes empty.
+    void mnuCopy_Click();
+    // Of the cell editor's selection only.
+    void mnuCut_Click();
+    void mnuPaste_Click();
+    void Ifield_SelectAll();
+
+  private:
+    [[nodiscard]] std::optional<GridColumnFacts> currentColumn() const;
+    [[nodiscard]] bool offersPaste() const;
+    [[nodiscard]] bool mayAddRecords() const;
+    [[nodiscard]] qint32 cellOperations() const;
+    [[nodiscard]] bool cutsFromEditor() const;
+    void paste(const QString &text);
+    void pasteValue(const QString &text);
+    void replaceSelection(const QString &text);
+    void ImportRecords();
+    [[nodiscard]] QString recordsToOverwrite();
+
+    GridSurface &mGrid;
+    FieldServices mServices;
+    ErrorReport &mErrors;
+    GridCellWriter mCells;
+};

@@ -1,0 +1,118 @@
+#include "grid_lists.h"
+
+#include "combo_translation.h"
+#include "transformer.h"
+#include "translation.h"
+#include "value_text.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+constexpr qint32 kDiffersByRecord = 2;
+
+QString textOf(const XArrayDB &items, qint32 row) { return ValueText::of(items.Value(row, 0)); }
+
+// The numbers that a column's items store, in their order; empty when the position is the value.
+std::vector<double> storedNumbers(const QString &map) {
+    std::vector<double> numbers;
+    if (map.isEmpty() || ValueText::isUndefined(map))
+        return numbers;
+    for (const QString &entry : map.split(u'|'))
+        numbers.push_back(ValueText::number(entry).value_or(0));
+    return numbers;
+}
+
+// A value that no item stores counts as a position.
+qint32 positionIn(const std::vector<double> &numbers, const QVariant &value) {
+    if (ValueText::isUndefined(value))
+        return 0;
+    const auto found = std::find(numbers.begin(), numbers.end(), ValueText::number(value).value_or(0));
+    return found == numbers.end() ? ValueText::toIntegerOr(value, 0) : qint32(found - numbers.begin());
+}
+} // namespace
+
+void GridLists::askForComboItems(const QString &uiid, qint32 record, XArrayDB &items, qint32 &scope) const {
+    items.Clear();
+    mGrid.Raise(FieldEvent(QStringLiteral("GetComboItems"), in(uiid), in(record), out(items), out(scope)));
+}
+
+XArrayDB GridLists::comboItems(const QString &uiid, qint32 record) const {
+    XArrayDB items;
+    qint32 scope = kDiffersByRecord;
+    askForComboItems(uiid, record, items, scope);
+    return items;
+}
+
+XArrayDB GridLists::idItems(const QString &uiid, qint32 record, const QString &value) {
+    XArrayDB items;
+    mGrid.Raise(FieldEvent(QStringLiteral("GetIDItems"), in(uiid), in(record), out(items)));
+    if (find(items, value) < 0) {
+        if (items.UpperBound(2) < 0)
+            items.ReDim(-1, 0);
+        items.InsertRow(0);
+        items.SetValue(0, 0, value);
+    }
+    mTranslatedNames.clear();
+    for (qint32 row = 0; row <= items.UpperBound(1); ++row)
+        mTranslatedNames.insert(mServices.translation.NLSStr(textOf(items, row)), textOf(items, row));
+    return items;
+}
+
+std::optional<QString> GridLists::sourceOfName(const QString &translated) const {
+    const auto found = mTranslatedNames.constFind(translated);
+    return found == mTranslatedNames.constEnd() ? std::nullopt : std::optional(*found);
+}
+
+qint32 GridLists::find(const XArrayDB &items, const QString &text) {
+    for (qint32 row = 0; row <= items.UpperBound(1); ++row) {
+        if (textOf(items, row) == text)
+            return row;
+    }
+    return -1;
+}
+
+QStringList GridLists::shownTexts(const XArrayDB &items) const {
+    QStringList texts;
+    for (qint32 row = 0; row <= items.UpperBound(1); ++row)
+        texts << textOf(items, row);
+    mServices.translation.NLSArray(texts);
+    return texts;
+}
+
+QVariant GridLists::comboValue(const QString &uiid, const XArrayDB &items, const QString &text) const {
+    qint32 row = find(items, text);
+    if (row < 0)
+        row = qint32(shownTexts(items).indexOf(text));
+    if (row < 0)
+        return QString();
+    const QString map = mGrid.Component().GetIsComboIndex(uiid);
+    return map.isEmpty() ? row : ComboTransFromUI(map, row);
+}
+
+qint32 GridLists::comboPosition(const QString &uiid, const QVariant &value) const {
+    const QString map = mGrid.Component().GetIsComboIndex(uiid);
+    return map.isEmpty() ? ValueText::toIntegerOr(value, -1) : ComboTransToUI(map, ValueText::of(value));
+}
+
+void GridLists::ConvertEntriesToUI(XArrayDB &array, const GridColumns &columns) const {
+    for (qint32 column = 0; column <= array.UpperBound(2) && !mGrid.Terminated(); ++column) {
+        if (columns.details(column).type == ColumnType::kCombo)
+            convertColumn(array, column, columns.details(column).uiid);
+    }
+}
+
+void GridLists::convertColumn(XArrayDB &array, qint32 column, const QString &uiid) const {
+    if (array.UpperBound(1) < 0)
+        return;
+    const std::vector<double> numbers = storedNumbers(mGrid.Component().GetIsComboIndex(uiid));
+    XArrayDB items;
+    qint32 scope = kDiffersByRecord;
+    for (qint32 row = 0; row <= array.UpperBound(1); ++row) {
+        if (scope == kDiffersByRecord)
+            askForComboItems(uiid, row + 1, items, scope);
+        const qint32 position = positionIn(numbers, array.Value(row, column));
+        const bool meant = position >= 0 && position <= items.UpperBound(1);
+        array.SetValue(row, column, meant ? items.Value(position, 0) : QVariant(ValueText::undefined()));
+    }
+}

@@ -1,0 +1,33 @@
+#include "row_heads.h"
+
+#include "row_block.h"
+
+#include <QMouseEvent>
+
+RowHeads::RowHeads(const RowBlock &block, QWidget *parent) : QHeaderView(Qt::Vertical, parent), mBlock(block) {
+    setSectionResizeMode(QHeaderView::Fixed);
+    setHighlightSections(true);
+    setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void RowHeads::mousePressEvent(QMouseEvent *event) {
+    const int row = logicalIndexAt(event->position().toPoint());
+    mExtending = false;
+    if (event->button() != Qt::LeftButton || row < 0)
+        return;
+    if ((event->modifiers() & Qt::ShiftModifier) != 0)
+        Q_EMIT blockAsked(mBlock.extendedTo(row));
+    else if ((event->modifiers() & Qt::ControlModifier) != 0)
+        Q_EMIT blockAsked(mBlock.with(row));
+    else
+        Q_EMIT blockAsked(RowBlock::only(row));
+    mExtending = mBlock.contains(row);
+}
+
+void RowHeads::mouseMoveEvent(QMouseEvent *event) {
+    const int row = logicalIndexAt(event->position().toPoint());
+    if (mExtending && row >= 0 && (event->buttons() & Qt::LeftButton) != 0)
+        Q_EMIT blockAsked(mBlock.extendedTo(row));
+}
+
+void RowHeads::mouseReleaseEvent(QMouseEvent * /*event*/) { mExtending = false; }

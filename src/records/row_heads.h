@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QHeaderView>
+
+class RowBlock;
+
+// The heads of a grid's rows. A click selects the row, Shift or a drag over the heads extends the block, Ctrl adds an
+// adjoining row.
+class RowHeads final : public QHeaderView {
+    Q_OBJECT
+  public:
+    // The block outlives this.
+    RowHeads(const RowBlock &block, QWidget *parent);
+
+  Q_SIGNALS:
+    void blockAsked(const RowBlock &block);
+
+  protected:
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+
+  private:
+    const RowBlock &mBlock;
+    bool mExtending = false;
+};

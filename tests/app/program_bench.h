@@ -1,0 +1,56 @@
+#pragma once
+
+#include "common_error_handler.h"
+#include "main_program.h"
+#include "scripted_message_boxes.h"
+
+#include <QTemporaryDir>
+#include <QWidget>
+
+#include <memory>
+
+class DataForm;
+class HostControl;
+class Ifield;
+class frmMain;
+
+// The whole program with its real component, started on data of its own: no settings, no journal. A message box that
+// the test does not expect fails it.
+class ProgramBench {
+  public:
+    ProgramBench();
+    ~ProgramBench();
+    Q_DISABLE_COPY_MOVE(ProgramBench)
+
+    ScriptedMessageBoxes boxes;
+    ErrorReport errors{false};
+
+    [[nodiscard]] frmMain &window() const;
+    [[nodiscard]] Transformer &component() const;
+    // "Basic", "Standard", "Advanced".
+    void chooseTier(const QString &key);
+    // By its caption in the tree, with a click. False if the tree has no such node; fails the test if the click opened
+    // something else.
+    [[nodiscard]] bool openForm(const QString &caption);
+    [[nodiscard]] DataForm *form() const;
+
+    // Of the open form; null for a name that it does not have.
+    [[nodiscard]] HostControl *control(const QString &name) const;
+    [[nodiscard]] Ifield *field(const QString &name) const;
+    [[nodiscard]] QWidget *widget(const QString &name) const;
+    // A part of a control, by its object name.
+    template <class Part>
+    [[nodiscard]] Part &part(const QString &control, const char *name) const {
+        auto *found = widget(control) == nullptr ? nullptr : widget(control)->findChild<Part *>(QLatin1String(name));
+        Q_ASSERT(found != nullptr);
+        return *found;
+    }
+
+    [[nodiscard]] QString value(const QString &uiid, qint32 record = 1) const;
+    // Fails the test if the component refuses it.
+    void setValue(const QString &uiid, qint32 record, const QVariant &value) const;
+
+  private:
+    QTemporaryDir mHome;
+    std::unique_ptr<MainProgram> mProgram;
+};

@@ -1,0 +1,195 @@
+#include "data_form.h"
+#include "frm_main.h"
+#include "ifield.h"
+#include "igrid.h"
+#include "program_bench.h"
+#include "transformer.h"
+#include "value_text.h"
+#include "xarray_db.h"
+
+#include <QDir>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <span>
+
+namespace {
+// Forms that a tier shows, by their captions in the tree, in its order.
+QStringList formsOf(const ProgramBench &bench) {
+    QStringList captions;
+    for (QTreeWidgetItemIterator at(bench.window().findChild<QTreeWidget *>(QStringLiteral("FormTree")));
+         *at != nullptr; ++at) {
+        if ((*at)->childCount() == 0)
+            captions << (*at)->text(0);
+    }
+    return captions;
+}
+
+// A further record of every kind that the tier has, so that each form has something to show and may be opened.
+void fillData(const ProgramBench &bench) {
+    struct Kind {
+        QString guide;
+        QString grid;
+    };
+    const Kind kinds[] = {{QStringLiteral("NetworkID"), QStringLiteral("Network")},
+                          {QStringLiteral("ChannelID_q7r"), QStringLiteral("Channels9000")},
+                          {QStringLiteral("GroupID_q7r"), QStringLiteral("ScanGroup")},
+                          {QStringLiteral("SignalSystemId_q7r"), QStringLiteral("Selcall9000")},
+                          {QStringLiteral("DTMFNetworkSigSystemID"), QStringLiteral("DTMF")},
+                          {QStringLiteral("T99NetworkID_q7r"), QStringLiteral("Type99")},
+                          {QStringLiteral("MDC1200SignallingSystemID"), QStringLiteral("MDC1200")}};
+    constexpr std::ptrdiff_t kKindsOfTiers[] = {3, 5, 7};
+    const QStringList tiers{QStringLiteral("Basic"), QStringLiteral("Standard"), QStringLiteral("Advanced")};
+    const auto count = kKindsOfTiers[tiers.indexOf(bench.component().GetCurrentTier())];
+    for (const Kind &kind : std::span(kinds).first(std::size_t(count))) {
+        qint32 record = bench.component().GetNumberOfRecords(kind.guide) + 1;
+        bool accepted = false;
+        bench.component().AddRecord(kind.guide, kind.grid, record, accepted);
+        QVERIFY2(accepted, qPrintable(kind.guide));
+    }
+    if (count > kKindsOfTiers[0])
+        bench.setValue(QStringLiteral("SignallingType"), 1, 1);
+}
+
+// What is wrong with the geometry of what is seen.
+class Geometry {
+  public:
+    Geometry(const ProgramBench &bench, QStringList &faults) : mBench(bench), mFaults(faults) {}
+
+    void look(const QString &where) {
+        mWhere = where;
+        for (const char *bar : {"HScroll1", "VScroll1"}) {
+            if (mBench.window().findChild<QScrollBar *>(QLatin1String(bar))->isVisible())
+                fault(QStringLiteral("scrolls"), QLatin1String(bar));
+        }
+        QList<const QWidget *> seen;
+        for (HostControl *control : mBench.form()->Iusrfrm_Controls()) {
+            const auto *widget = mBench.form()->findChild<QWidget *>(control->Name());
+            if (widget->isVisible())
+                lookAt(*widget, seen);
+        }
+    }
+
+  private:
+    void lookAt(const QWidget &widget, QList<const QWidget *> &seen) {
+        if (!widget.parentWidget()->rect().contains(widget.geometry()))
+            fault(QStringLiteral("leaves its parent"), widget.objectName());
+        for (const QWidget *other : seen) {
+            if (other->parentWidget() == widget.parentWidget() && other->geometry().intersects(widget.geometry()))
+                fault(QStringLiteral("overlaps ") + other->objectName(), widget.objectName());
+        }
+        seen.push_back(&widget);
+    }
+    void fault(const QString &what, const QString &name) {
+        mFaults << mWhere + QStringLiteral(": ") + name + u' ' + what;
+    }
+
+    const ProgramBench &mBench;
+    QStringList &mFaults;
+    QString mWhere;
+};
+} // namespace
+
+// Every form of the catalogue in the whole program, on each tier that has it.
+class tst_all_forms final : public QObject {
+    Q_OBJECT
+  private Q_SLOTS:
+    void everyFormOpensFilled_data();
+    void everyFormOpensFilled();
+
+  private:
+    void lookAtForm(const ProgramBench &bench, const QString &caption);
+    void lookAtField(const ProgramBench &bench, const HostControl &control, const QString &where);
+    void lookAtGrid(const ProgramBench &bench, Igrid &grid, const QString &where);
+    void picture(const ProgramBench &bench, const QString &name);
+
+    QStringList mFaults;
+};
+
+void tst_all_forms::everyFormOpensFilled_data() {
+    QTest::addColumn<QString>("tier");
+    QTest::addColumn<int>("forms");
+    QTest::newRow("basic") << QStringLiteral("Basic") << 12;
+    QTest::newRow("standard") << QStringLiteral("Standard") << 22;
+    QTest::newRow("advanced") << QStringLiteral("Advanced") << 25;
+}
+
+void tst_all_forms::everyFormOpensFilled() {
+    QFETCH(QString, tier);
+    mFaults.clear();
+    ProgramBench bench;
+    bench.chooseTier(tier);
+    fillData(bench);
+    const QStringList captions = formsOf(bench);
+    for (const QString &caption : captions) {
+        QVERIFY2(bench.openForm(caption), qPrintable(caption));
+        lookAtForm(bench, caption);
+    }
+    QCOMPARE(mFaults.join(u'\n'), QString());
+    QTEST(int(captions.size()), "forms");
+}
+
+void tst_all_forms::lookAtForm(const ProgramBench &bench, const QString &caption) {
+    for (const HostControl *control : bench.form()->Iusrfrm_Controls())
+        lookAtField(bench, *control, caption + QStringLiteral(": ") + control->Name());
+    Geometry geometry(bench, mFaults);
+    auto *tabs = bench.form()->findChild<QTabWidget *>(QStringLiteral("SSTab1"));
+    for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
+        const QString where = tabs == nullptr ? caption : caption + u'-' + QString::number(page + 1);
+        if (tabs != nullptr && !tabs->isTabVisible(page))
+            continue;
+        if (tabs != nullptr)
+            tabs->setCurrentIndex(page);
+        QCoreApplication::processEvents();
+        geometry.look(where);
+        picture(bench, where);
+    }
+}
+
+void tst_all_forms::lookAtField(const ProgramBench &bench, const HostControl &control, const QString &where) {
+    static const QStringList kValues{QStringLiteral("fldTextField"), QStringLiteral("fldComboField"),
+                                     QStringLiteral("fldCheckboxField"), QStringLiteral("fldIdTrackerField")};
+    if (auto *grid = dynamic_cast<Igrid *>(control.object()))
+        lookAtGrid(bench, *grid, where);
+    if (!kValues.contains(control.TypeName()))
+        return;
+    Ifield &field = *control.object();
+    if (field.Ifield_GetUIIDNotFound())
+        mFaults << where + QStringLiteral(" is not found");
+    if (!field.Ifield_GetVisible())
+        return;
+    const QString uiid = field.Ifield_GetUIID();
+    const QString label = bench.component().GetLabel(uiid);
+    // A box without room for a caption has blanks for one.
+    if (!field.Ifield_GetName().trimmed().isEmpty() && !label.isEmpty() && field.Ifield_GetName() != label)
+        mFaults << where + QStringLiteral(" is labelled ") + field.Ifield_GetName();
+    const QString stored = bench.value(uiid, field.Ifield_GetRecordNr());
+    if (ValueText::isUndefined(stored))
+        return;
+    if (ValueText::of(field.Ifield_GetValue()) != stored)
+        mFaults << where + QStringLiteral(" shows ") + ValueText::of(field.Ifield_GetValue()) +
+                       QStringLiteral(", not ") + stored;
+    if (field.Ifield_GetEnabled() != bench.component().GetFieldEnabled(uiid, field.Ifield_GetRecordNr()))
+        mFaults << where + QStringLiteral(" is wrongly enabled or disabled");
+}
+
+void tst_all_forms::lookAtGrid(const ProgramBench &bench, Igrid &grid, const QString &where) {
+    const QStringList uiids = grid.Igrid_GetUIIDList().split(u'|');
+    const XArrayDB &rows = grid.Igrid_GetArray();
+    const qint32 records = bench.component().GetNumberOfRecords(uiids.first());
+    if (rows.UpperBound(1) + 1 != records)
+        mFaults << where + QStringLiteral(" has %1 rows for %2 records").arg(rows.UpperBound(1) + 1).arg(records);
+}
+
+void tst_all_forms::picture(const ProgramBench &bench, const QString &name) {
+    const QDir folder(QCoreApplication::applicationDirPath() + QStringLiteral("/../form-pictures"));
+    folder.mkpath(QStringLiteral("."));
+    bench.window().grab().save(folder.filePath(bench.component().GetCurrentTier() + u'-' +
+                                               QString(name).replace(u' ', u'_').replace(u'/', u'_') +
+                                               QStringLiteral(".png")));
+}
+
+QTEST_MAIN(tst_all_forms)
+#include "tst_all_forms.moc"

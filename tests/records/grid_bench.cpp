@@ -1,0 +1,89 @@
+#include "grid_bench.h"
+
+#include "tdb_grid.h"
+#include "value_text.h"
+#include "window_input.h"
+
+#include <QApplication>
+
+#include <algorithm>
+
+void FormEvents::TransformerEvents_UpdateUIFieldByUIID(const QString &UIID, qint32 RecordNr, const QVariant &Value) {
+    ComponentListener::TransformerEvents_UpdateUIFieldByUIID(UIID, RecordNr, Value);
+    if (enabler != nullptr)
+        enabler->Ienabler_UpdateUIFieldByUIID(UIID, RecordNr, Value);
+}
+
+void FormEvents::TransformerEvents_RefreshGridByUIID(const QString &UIID) {
+    ComponentListener::TransformerEvents_RefreshGridByUIID(UIID);
+    if (enabler != nullptr)
+        enabler->Ienabler_RefreshGridByUIID(UIID);
+}
+
+void FormEvents::TransformerEvents_SetEnableDisableByUIID(const QString &UIID, bool Enable) {
+    ComponentListener::TransformerEvents_SetEnableDisableByUIID(UIID, Enable);
+    if (enabler != nullptr)
+        enabler->Ienabler_SetEnableDisableByUIID(UIID, Enable);
+}
+
+GridBench::GridBench()
+    : component(ComponentPlaces{}, [this] { return services.clipboard.Text(); }), mGuard(services.errors) {
+    services.process.objTransformer = &component;
+    services.shell.mainWindow = &window;
+    component.AddListener(&events);
+    component.ChangeTier(QStringLiteral("Advanced"));
+    window.resize(800, 600);
+}
+
+GridBench::~GridBench() {
+    for (const auto &host : mHosts)
+        host->object()->Ifield_Terminate();
+    if (events.enabler != nullptr)
+        events.enabler->UserControl_Terminate();
+    events.enabler.reset();
+    component.ShutDown();
+}
+
+void GridBench::enter(QWidget &field, const QString &name, const TwipRect &place) {
+    const auto *control = dynamic_cast<Ifield *>(&field);
+    const QString typeName = dynamic_cast<fldGridField *>(&field) != nullptr ? QStringLiteral("fldGridField")
+                                                                             : control->Ifield_GetTypeName();
+    auto host = std::make_unique<FieldHost>(field, FieldHost::Place{name, typeName, nullptr, qint32(mControls.size())});
+    host->SetGeometry(place);
+    mControls.push_back(host.get());
+    mHosts.push_back(std::move(host));
+}
+
+fldGridField &GridBench::addGrid(const QString &fields, QVariantMap properties) {
+    properties.insert(QStringLiteral("Fields"), fields);
+    properties.insert(QStringLiteral("Dynamic"), true);
+    if (!properties.contains(QStringLiteral("ID")))
+        properties.insert(QStringLiteral("ID"), QStringLiteral("BenchGrid"));
+    auto &grid = add<fldGridField>(QStringLiteral("grid%1").arg(mControls.size()),
+                                   {{100}, {100 + qint32(mControls.size()) * 600}, {9000}, {4000}}, properties);
+    grid.SetFormControls(mControls);
+    return grid;
+}
+
+void GridBench::start(fldGridField &grid) {
+    events.enabler = std::make_shared<ctlFormEnabler>(mControls, services.fieldServices(), [this]() -> HostControl * {
+        const auto found = std::ranges::find_if(
+            mHosts, [](const auto &host) { return host->Widget()->isAncestorOf(QApplication::focusWidget()); });
+        return found == mHosts.end() ? nullptr : found->get();
+    });
+    events.enabler->AccessControls();
+    services.shell.changingForms = true;
+    events.enabler->Ienabler_InitialiseFields(-1);
+    WindowInput::activate(window);
+    services.shell.changingForms = false;
+    grid.Ifield_SetFocus();
+    events.clear();
+}
+
+TDBGrid &GridBench::table(fldGridField &grid) { return *grid.findChild<TDBGrid *>(QStringLiteral("TDBGrid1")); }
+
+QString GridBench::shown(fldGridField &grid, qint32 row, qint32 column) { return grid.CellValue(row, column); }
+
+QString GridBench::stored(const QString &uiid, qint32 record) const {
+    return ValueText::of(const_cast<TransformerComponent &>(component).GetValue(uiid, record));
+}
