@@ -37,9 +37,9 @@ void RecordTable::insert(qint32 record, const Dictionary &dictionary, const Reco
         const FieldDefinition &field = dictionary.field(structure.stored[i]);
         const auto column = std::size_t(field.column);
         if (field.isTextual())
-            mTexts[column].insert(mTexts[column].begin() + record - 1, row[i].text());
+            mTexts[column].insert(mTexts[column].begin() + (record - 1), row[i].text());
         else
-            mNumbers[column].insert(mNumbers[column].begin() + record - 1, row[i].number());
+            mNumbers[column].insert(mNumbers[column].begin() + (record - 1), row[i].number());
     }
     ++mCount;
     if (record < mCount)
@@ -50,9 +50,9 @@ void RecordTable::insert(qint32 record, const Dictionary &dictionary, const Reco
 
 void RecordTable::remove(qint32 record) {
     for (auto &column : mNumbers)
-        column.erase(column.begin() + record - 1);
+        column.erase(column.begin() + (record - 1));
     for (auto &column : mTexts)
-        column.erase(column.begin() + record - 1);
+        column.erase(column.begin() + (record - 1));
     --mCount;
     mIdentities.forget();
 }
