@@ -62,6 +62,8 @@ run_tests() { # preset's build folder
 }
 
 if [ "$failed" = 0 ]; then
+  tools/check_package.sh build
+  count "package" $?
   [ -n "$full" ] && export KX_FULL=1
   run_tests build
   if [ -n "$full" ]; then

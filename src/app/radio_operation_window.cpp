@@ -10,7 +10,7 @@ namespace {
 // "COM3: Depot radio", or without a name the device.
 QString portName(Transformer &transformer) {
     const QString number = ValueText::of(transformer.GetSetting(QStringLiteral("CommPortNumber"), 1));
-    const QString com = QStringLiteral("COM") + number;
+    QString com = QStringLiteral("COM") + number;
     const SerialPorts ports;
     for (const SerialPortEntry &entry : ports.List()) {
         if (QString::number(entry.number) == number)

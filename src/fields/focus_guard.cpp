@@ -240,8 +240,8 @@ void FocusGuard::finishLeaving(QWidget &window, QWidget &field) {
 }
 
 void FocusGuard::bringBack() try {
-    const QPointer<QWidget> field = mReturning;
-    if (!field.isNull())
+    QWidget *field = mReturning.data();
+    if (field != nullptr)
         asField(field)->FocusEditingPart();
     mReturning = nullptr;
 }

@@ -38,7 +38,8 @@ void FrameBorder::paintEvent(QPaintEvent * /*event*/) {
         const QRect gap = caption.adjusted(-kCaptionSpace, 0, kCaptionSpace, 0);
         painter.setClipRegion(QRegion(rect()) - gap);
     }
-    const double top = captioned ? metrics.height() / 2 + 0.5 : 0.5;
+    const int captionMiddle = captioned ? metrics.height() / 2 : 0;
+    const double top = captionMiddle + 0.5;
     painter.drawRoundedRect(QRectF(0.5, top, width() - 1.0, height() - top - 0.5), kRadius, kRadius);
     painter.restore();
     if (captioned)

@@ -56,7 +56,9 @@ QWidget &FormControls::parentOf(const PlacedControl &placed, QWidget &form) cons
     if (placed.parent == nullptr)
         return form;
     FieldHost *container = mByDefinition.at(placed.parent);
-    return container == mTab ? *mTabWidget->widget(placed.page) : *container->Widget();
+    QWidget *parent = container == mTab ? mTabWidget->widget(placed.page) : container->Widget();
+    Q_ASSERT(parent != nullptr);
+    return *parent;
 }
 
 HostControl *FormControls::ControlOf(const QWidget *widget) const {

@@ -118,7 +118,7 @@ bool fldGridField::writeCell(GridCell cell, const QString &text) {
     return !cancel;
 }
 
-void fldGridField::ShowCellHelp() { services().shell.ShowWhatsThisHelp(Ifield_GetHelpID()); }
+void fldGridField::ShowCellHelp() { services().shell.ShowWhatsThisHelp(component().GetHelpID(Ifield_GetUIID())); }
 
 void fldGridField::RowColChange(qint32 /*lastColumn*/) { mCycle.TDBGrid1_RowColChange(); }
 

@@ -30,6 +30,10 @@ QVariant GridValues::Ifield_GetValue() {
         value = mParts.lists.comboValue(column.uiid, items, ValueText::of(value));
     } else if (column.type == ColumnType::kIdTracker || column.type == ColumnType::kDerived) {
         value = mParts.cells.sourceValue({record - 1, std::max(mParts.table.Col(), 0)});
+        // A choice that is still in the editor counts, so that a save does not miss it.
+        if (const auto chosen =
+                mParts.table.EditActive() ? mParts.lists.sourceOfName(mParts.table.Text()) : std::nullopt)
+            value = *chosen;
     }
     return TrimBlanks(ValueText::of(value));
 }

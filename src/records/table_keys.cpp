@@ -47,16 +47,17 @@ bool TableKeys::take(QKeyEvent &key) {
     return true;
 }
 
-void TableKeys::typeIntoCell(QKeyEvent &key) {
+bool TableKeys::typeIntoCell(QKeyEvent &key) {
     const bool shortcut = (key.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0;
-    if (shortcut || key.text().isEmpty() || !key.text().at(0).isPrint() || !mTable.isEditableNow())
-        return;
+    if (shortcut || key.text().isEmpty() || !key.text().at(0).isPrint())
+        return false;
     mTable.StartEdit();
     if (!mTable.EditActive())
-        return;
+        return true;
     mTable.editor().forward(key);
     if (!mTable.editor().changed() && !mTable.hasListNow())
         mTable.finishEdit(); // none of it may be typed here
+    return true;
 }
 
 int TableKeys::page() const { return std::max(1, mTable.VisibleRows() - 1); }

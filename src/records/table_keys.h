@@ -12,8 +12,8 @@ class TableKeys {
 
     // True: the key is done with.
     [[nodiscard]] bool take(QKeyEvent &key);
-    // The character begins an edit of the current cell and replaces its content.
-    void typeIntoCell(QKeyEvent &key);
+    // The character begins an edit of the current cell and replaces its content. False: it is no character.
+    bool typeIntoCell(QKeyEvent &key);
 
   private:
     struct Key;

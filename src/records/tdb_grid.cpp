@@ -72,7 +72,9 @@ QWidget &TDBGrid::HeadsSurface() { return *verticalHeader()->viewport(); }
 
 // The cursor.
 
-std::optional<qint32> TDBGrid::Bookmark() const { return mRow < 0 ? std::nullopt : std::optional(mRow); }
+std::optional<qint32> TDBGrid::Bookmark() const {
+    return mRow < 0 || mRow >= ApproxCount() ? std::nullopt : std::optional(mRow);
+}
 
 qint32 TDBGrid::ApproxCount() const { return mModel.rowCount(); }
 
@@ -187,8 +189,7 @@ void TDBGrid::setColumnWidths(const std::vector<int> &widths) {
         heads.resizeSection(int(column), std::max(widths[column], heads.minimumSectionSize()));
     heads.setStretchLastSection(!widths.empty() && widths.back() == 0);
     fitHeads();
-    mRow = -1;
-    mCol = widths.empty() ? -1 : 0;
+    mCol = std::min(std::max(mCol, 0), int(widths.size()) - 1);
     mBlock = {};
 }
 
@@ -404,8 +405,8 @@ void TDBGrid::keyPressEvent(QKeyEvent *event) try {
     if (EditActive()) {
         mEditor->box().setFocus(Qt::OtherFocusReason);
         mEditor->forward(*event);
-    } else if (!mKeys.take(*event)) {
-        mKeys.typeIntoCell(*event);
+    } else {
+        event->setAccepted(mKeys.take(*event) || mKeys.typeIntoCell(*event));
     }
 }
 ERROR_TAIL()

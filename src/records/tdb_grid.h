@@ -24,7 +24,7 @@ class TDBGrid final : public QTableView, public GridTable {
 
     [[nodiscard]] CellEditor &editor() const { return *mEditor; }
     [[nodiscard]] TDBDropDown &dropDown() const { return *mDropDown; }
-    // Columns of these widths in pixels; 0 for the last: what is left. Puts the cursor into the first column.
+    // Columns of these widths in pixels; 0 for the last: what is left. The cursor keeps its row and column.
     void setColumnWidths(const std::vector<int> &widths);
     // ReBind that keeps the selection as far as its rows still exist.
     void reBindKeepingSelection();
@@ -105,7 +105,7 @@ class TDBGrid final : public QTableView, public GridTable {
     void showBlock();
     void bind(const RowBlock &kept);
     void listClosed(int tab);
-    [[nodiscard]] bool hasCurrent() const { return mRow >= 0 && mCol >= 0; }
+    [[nodiscard]] bool hasCurrent() const { return Bookmark() && mCol >= 0; }
 
     GridModel &mModel;
     GridCells &mCells;

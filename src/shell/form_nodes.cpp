@@ -109,6 +109,7 @@ qint32 FormNodes::Parent(qint32 index) const { return indexOf(item(index)->paren
 std::vector<qint32> FormNodes::Children(qint32 index) const {
     std::vector<qint32> children;
     const QTreeWidgetItem *node = item(index);
+    children.reserve(std::size_t(node->childCount()));
     for (int child = 0; child < node->childCount(); ++child)
         children.push_back(indexOf(node->child(child)));
     return children;

@@ -11,6 +11,7 @@
 #include "edit_commands.h"
 #include "edit_shortcuts.h"
 #include "event_sink.h"
+#include "features_menu.h"
 #include "field_details.h"
 #include "file_io.h"
 #include "filter_tabs.h"
@@ -68,6 +69,7 @@ struct frmMain::Wiring {
 
     // Menus, bars and panels; the window owns the widgets
     MainMenu menu{*window.menuBar(), texts};
+    FeaturesMenu features{*window.menuBar(), with.translation, with.errors};
     ToolBarCommands toolBarCommands{menu};
     ResizingArea &area{*new ResizingArea(&window)};
     ShellToolBar standardBar{&area,
@@ -122,7 +124,7 @@ struct frmMain::Wiring {
     // Tiers, events, beginning and end
     Tiers tiers{with.transformer,
                 with.translation,
-                {tierButtons, menu, filterTabs, nodes, host, navigation, layout, levels, ticks, title, panels,
+                {tierButtons, menu, features, filterTabs, nodes, host, navigation, layout, levels, ticks, title, panels,
                  userEvents, loadFailure, documents},
                 with.errors};
     TierDrag tierDrag{with.transformer, tierButtons, details, with.errors};

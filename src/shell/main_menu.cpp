@@ -11,7 +11,6 @@
 
 #include <array>
 #include <optional>
-#include <utility>
 
 namespace {
 // Top-level menus have no parent; an entry without a caption is a separator.
@@ -134,9 +133,9 @@ QMenu &MainMenu::Menu(const QString &name) const {
     return *menu;
 }
 
-void MainMenu::Connect(const QString &name, std::function<void()> command) {
+void MainMenu::Connect(const QString &name, const std::function<void()> &command) {
     QAction &action = Action(name);
-    mCommands.insert(name, std::move(command));
+    mCommands.insert(name, command);
     QObject::connect(&action, &QAction::triggered, &action, [this, name] { Run(name); });
     action.setEnabled(true);
 }

@@ -20,7 +20,7 @@ class MainMenu {
     [[nodiscard]] QAction &Action(const QString &name) const;
     [[nodiscard]] QMenu &Menu(const QString &name) const;
     // What a command does; it is enabled from then on. A command without one stays disabled.
-    void Connect(const QString &name, std::function<void()> command);
+    void Connect(const QString &name, const std::function<void()> &command);
     [[nodiscard]] bool Connected(const QString &name) const { return mCommands.contains(name); }
     // As if the command were chosen; nothing if it does nothing or is disabled.
     void Run(const QString &name);

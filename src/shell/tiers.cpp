@@ -2,6 +2,7 @@
 
 #include "access_levels.h"
 #include "common_error_handler.h"
+#include "features_menu.h"
 #include "filter_tabs.h"
 #include "form_host.h"
 #include "green_ticks.h"
@@ -94,6 +95,7 @@ void Tiers::ChangeToTier(const QString &TierKey, const FormLists &lists, bool &R
         mParts.buttons.Press(button);
     mParts.filterTabs.UpdateTreeFilterTab();
     mParts.filterTabs.Strip().hide();
+    mParts.features.DeleteDynamicMenu();
     mParts.menu.SetVisible(QStringLiteral("mnuFeature"), false);
     mParts.nodes.UpdateTreeItems(lists, QString());
     mParts.navigation.ChangeFormTreeNodes(false, false);

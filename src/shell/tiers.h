@@ -6,6 +6,7 @@
 
 class AccessLevels;
 class ErrorReport;
+class FeaturesMenu;
 class FilterTabs;
 class FormHost;
 class GreenTicks;
@@ -27,6 +28,7 @@ class Tiers {
     struct Parts {
         TierButtons &buttons;
         MainMenu &menu;
+        FeaturesMenu &features;
         FilterTabs &filterTabs;
         FormNodes &nodes;
         FormHost &host;

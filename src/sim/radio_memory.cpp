@@ -21,7 +21,7 @@ QByteArray RadioMemory::header() const {
 
 QString RadioMemory::attach(const QString &path) {
     if (!QFile::exists(path)) {
-        const QString problem = create(path);
+        QString problem = create(path);
         if (!problem.isEmpty())
             return problem;
     }
@@ -35,7 +35,7 @@ QString RadioMemory::attach(const QString &path) {
     expected[kActiveAt] = content[kActiveAt];
     if (content.left(kHeaderSize) != expected || quint8(content[kActiveAt]) > 1)
         return QStringLiteral("the image file belongs to a radio of another tier or memory map");
-    mActive = content[kActiveAt];
+    mActive = quint8(content[kActiveAt]);
     mBanks[0] = content.mid(kHeaderSize, size());
     mBanks[1] = content.mid(kHeaderSize + qsizetype(size()));
     return {};

@@ -1,7 +1,9 @@
 #include "scripted_grid_host.h"
 
 void ScriptedGridHost::frmField_ObjectEvent(const FieldEvent &Event) {
-    const QString &name = Event.name();
+    const QString name = Event.name();
+    if (on)
+        on(name);
     if (name == QStringLiteral("GetComboItems") || name == QStringLiteral("GetIDItems")) {
         const auto [uiid, record] = Event.unpack<QString, qint32>();
         heard << QStringLiteral("%1 %2 %3").arg(name, uiid).arg(record);

@@ -6,14 +6,17 @@
 #include <QHash>
 #include <QStringList>
 
+#include <functional>
+
 // Answers a grid's questions in the enabler's place: lists by UIID, labels, verdicts.
 class ScriptedGridHost final : public HostEvents {
   public:
-    QHash<QString, QStringList> lists; // of Combo and ID Tracker columns
-    QHash<QString, QString> labels;    // a UIID without an entry is its own label
-    qint32 scope = 0;                  // of all Combo lists; 2: differs by record
-    bool refuses = false;              // each "ManualValidate"
-    QStringList heard;                 // "Name" or "Name UIID record"
+    std::function<void(const QString &event)> on; // runs inside each event
+    QHash<QString, QStringList> lists;            // of Combo and ID Tracker columns
+    QHash<QString, QString> labels;               // a UIID without an entry is its own label
+    qint32 scope = 0;                             // of all Combo lists; 2: differs by record
+    bool refuses = false;                         // each "ManualValidate"
+    QStringList heard;                            // "Name" or "Name UIID record"
 
     [[nodiscard]] QStringList heardOf(const QString &event) const { return heard.filter(event); }
 

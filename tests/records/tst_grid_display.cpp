@@ -4,7 +4,10 @@
 #include "tdb_drop_down.h"
 #include "tdb_grid.h"
 
+#include <QHeaderView>
 #include <QTest>
+
+#include <functional>
 
 namespace {
 const QString kName = QStringLiteral("Grid");
@@ -72,6 +75,8 @@ class tst_grid_display final : public QObject {
     void rowsOfFormCode();
     void lockedAndDisabledColumnsTakeNoEdit();
     void heads();
+    void aFormClosedInsideAnEventIsLeftAlone_data();
+    void aFormClosedInsideAnEventIsLeftAlone();
 };
 
 void tst_grid_display::comboCellsShowTheirItem_data() {
@@ -365,6 +370,41 @@ void tst_grid_display::heads() {
     bench.fill({});
     QCOMPARE(bench.grid.Igrid_GetHeader(), QStringLiteral("      Net Freq Power"));
     QCOMPARE(bench.table().model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Freq"));
+}
+
+void tst_grid_display::aFormClosedInsideAnEventIsLeftAlone_data() {
+    QTest::addColumn<QString>("event");
+    for (const char *event :
+         {"GetComboItems", "GetIDItems", "GetValidationString", "ManualValidate", "Change", "RowSelectionChanged",
+          "AddRecord", "InsertRecord", "RepeatRecord", "DeleteRecord", "SortColumnByUIID", "Escape"})
+        QTest::newRow(event) << QString::fromLatin1(event);
+}
+
+// Whatever the user does at that moment: nothing more is raised.
+void tst_grid_display::aFormClosedInsideAnEventIsLeftAlone() {
+    QFETCH(QString, event);
+    Bench bench;
+    bench.fill({QStringLiteral("North|1|0"), QStringLiteral("South|2|0")});
+    bench.bench.show();
+    bench.host.on = [&](const QString &name) {
+        if (name == event)
+            bench.grid.Ifield_Terminate();
+    };
+    const std::function<void()> actions[] = {
+        [&] { bench.goTo(1, 2); },
+        [&] { bench.goTo(0, 0); },
+        [&] { bench.grid.Add(); },
+        [&] { bench.grid.Insert(); },
+        [&] { bench.grid.Repeat(); },
+        [&] { bench.grid.Delete(); },
+        [&] { Q_EMIT bench.table().horizontalHeader()->sectionClicked(1); },
+        [&] { QTest::keyClick(&bench.table(), Qt::Key_Escape); },
+        [&] { bench.grid.Igrid_Rebind(true); },
+        [&] { (void)bench.grid.MayLeave(); },
+    };
+    for (const auto &action : actions)
+        action();
+    QCOMPARE(bench.host.heard.isEmpty() ? event : bench.host.heard.last().section(u' ', 0, 0), event);
 }
 
 QTEST_MAIN(tst_grid_display)

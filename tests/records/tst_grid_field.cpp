@@ -7,7 +7,6 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
@@ -17,6 +16,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <ctime>
 #include <functional>
 
 namespace {
@@ -68,14 +68,13 @@ class Channels : public GridBench {
     }
 };
 
-// The fastest of five runs: the machine may be busy.
+// Processor time of the fastest of five runs: the machine may be busy with other things.
 double milliseconds(const std::function<void()> &action) {
     double fastest = 1e9;
     for (int run = 0; run < 5; ++run) {
-        QElapsedTimer timer;
-        timer.start();
+        const std::clock_t start = std::clock();
         action();
-        fastest = std::min(fastest, double(timer.nsecsElapsed()) / 1e6);
+        fastest = std::min(fastest, 1e3 * double(std::clock() - start) / CLOCKS_PER_SEC);
     }
     return fastest;
 }
@@ -261,6 +260,9 @@ void tst_grid_field::lettersChooseInAListCell() {
     const QString tone = bench.table.Text();
     QVERIFY2(tone.startsWith(QStringLiteral("82.5")), qPrintable(tone));
     QCOMPARE(bench.stored(kTone, 1), QStringLiteral("None"));
+    bench.events.enabler->Ienabler_ForceSaveToCurrentField(); // a save does not miss it
+    QCOMPARE(bench.stored(kTone, 1), tone);
+    type(QStringLiteral("8"));
     key(Qt::Key_Tab);
     QCOMPARE(bench.stored(kTone, 1), tone);
     bench.goTo(0, kPowerColumn);
@@ -554,13 +556,15 @@ void tst_grid_field::twoThousandRowsAnswerAtOnce() {
         bench.table.RemoveSelBookmarks();
         bench.grid.Ifield_SelectAll();
     });
-    qInfo("GetGridData %.2f ms, refill %.2f ms, a move %.2f ms, to the ends %.2f ms, select all %.2f ms", component,
-          refilled, moved, turned, selected);
+    const double sorted = milliseconds([&] { Q_EMIT bench.table.horizontalHeader()->sectionClicked(kRxColumn); });
+    qInfo("GetGridData %.2f ms, refill %.2f ms, a move %.2f ms, to the ends %.2f ms, select all %.2f ms, sort %.2f ms",
+          component, refilled, moved, turned, selected, sorted);
     constexpr double kAtOnce = 16;
     QVERIFY(refilled - component < kAtOnce);
     QVERIFY(moved < kAtOnce);
     QVERIFY(turned < 2 * kAtOnce);
     QVERIFY(selected < kAtOnce);
+    QVERIFY(sorted < kAtOnce);
 }
 
 QTEST_MAIN(tst_grid_field)

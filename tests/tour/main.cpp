@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <memory>
 
 namespace {
 const QString kSerialNumber = QStringLiteral("19004711");
@@ -28,8 +29,10 @@ int walkTour(int &argc, char **argv, const QString &folder, const QTemporaryDir 
     ErrorReport errors(false);
     const MainApplication application(argc, argv, errors);
     TourDialogs dialogs;
-    MainProgram program(errors, QStringList(), {.fileDialogs = &dialogs});
-    Tour(program, radio, dialogs, report, kSerialNumber).walk();
+    const auto makeProgram = [&] {
+        return std::make_unique<MainProgram>(errors, QStringList(), ProgramReplacements{.fileDialogs = &dialogs});
+    };
+    Tour(makeProgram, radio, dialogs, report, kSerialNumber).walk();
     return errors.HasReported() ? 1 : 0;
 }
 } // namespace

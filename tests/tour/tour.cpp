@@ -24,10 +24,12 @@ constexpr int kPageHeight = 768;
 constexpr int kPageWidth = 1024;
 } // namespace
 
-Tour::Tour(MainProgram &program, const RadioProcess &radio, TourDialogs &dialogs, TourReport &report,
+Tour::Tour(ProgramMaker makeProgram, const RadioProcess &radio, TourDialogs &dialogs, TourReport &report,
            QString serialNumber)
-    : mProgram(program), mRadio(radio), mDialogs(dialogs), mReport(report), mPilot(report),
+    : mMakeProgram(std::move(makeProgram)), mRadio(radio), mDialogs(dialogs), mReport(report), mPilot(report),
       mSerialNumber(std::move(serialNumber)), mFileName(report.folder() + QStringLiteral("/tour.k4p")) {}
+
+Tour::~Tour() = default;
 
 void Tour::walk() {
     struct Step {
@@ -44,7 +46,9 @@ void Tour::walk() {
                            Step{QStringLiteral("start anew and open the file"), &Tour::openAgain},
                            Step{QStringLiteral("program the radio"), &Tour::program},
                            Step{QStringLiteral("verify the radio's memory"), &Tour::verifyRadio},
-                           Step{QStringLiteral("close"), &Tour::leave}};
+                           Step{QStringLiteral("close"), &Tour::leave},
+                           Step{QStringLiteral("start afresh and read the radio"), &Tour::readIntoFreshStart},
+                           Step{QStringLiteral("close again"), &Tour::leave}};
     for (const Step &step : steps) {
         mReport.beginStep(step.name);
         (this->*step.run)();
@@ -54,32 +58,32 @@ void Tour::walk() {
 
 void Tour::picture(const QString &what) {
     QCoreApplication::processEvents();
-    mReport.picture(mProgram.Window(), what);
+    mReport.picture(mProgram->Window(), what);
 }
 
-QString Tour::value(const QString &uiid) const { return ValueText::of(mProgram.Component().GetValue(uiid, 0)); }
+QString Tour::value(const QString &uiid) const { return ValueText::of(mProgram->Component().GetValue(uiid, 0)); }
 
 void Tour::trigger(const QString &action, const QString &picture) {
-    auto *found = mProgram.Window().findChild<QAction *>(action);
+    auto *found = mProgram->Window().findChild<QAction *>(action);
     require(found != nullptr, QStringLiteral("there is no command %1").arg(action));
     require(found->isEnabled(), QStringLiteral("the command %1 is disabled").arg(action));
     mPilot.during(picture, [found] { found->trigger(); });
 }
 
 void Tour::openForm(const QString &caption) {
-    auto *tree = mProgram.Window().findChild<QTreeWidget *>(QStringLiteral("FormTree"));
+    auto *tree = mProgram->Window().findChild<QTreeWidget *>(QStringLiteral("FormTree"));
     require(tree != nullptr, QStringLiteral("there is no form tree"));
     const QList<QTreeWidgetItem *> items = tree->findItems(caption, Qt::MatchExactly | Qt::MatchRecursive);
     require(items.size() == 1, QStringLiteral("the tree has no node %1").arg(caption));
     tree->scrollToItem(items.constFirst());
     const QPoint middle = tree->visualItemRect(items.constFirst()).center();
     mPilot.during(caption, [&] { WindowInput::clickAt(*tree->viewport(), middle); });
-    require(mProgram.Component().GetCurrentFormName() == caption,
-            QStringLiteral("a click on %1 opened %2").arg(caption, mProgram.Component().GetCurrentFormName()));
+    require(mProgram->Component().GetCurrentFormName() == caption,
+            QStringLiteral("a click on %1 opened %2").arg(caption, mProgram->Component().GetCurrentFormName()));
 }
 
 QLineEdit &Tour::editorOf(const QString &uiid) const {
-    for (QWidget *widget : mProgram.Window().findChildren<QWidget *>()) {
+    for (QWidget *widget : mProgram->Window().findChildren<QWidget *>()) {
         const auto *field = dynamic_cast<const Ifield *>(widget);
         if (field == nullptr || field->Ifield_GetUIID() != uiid)
             continue;
@@ -91,7 +95,7 @@ QLineEdit &Tour::editorOf(const QString &uiid) const {
 }
 
 void Tour::typeOver(QLineEdit &editor, const QString &text) {
-    WindowInput::activate(mProgram.Window());
+    WindowInput::activate(mProgram->Window());
     WindowInput::click(editor);
     WindowInput::key(Qt::Key_Home);
     WindowInput::key(Qt::Key_End, Qt::ShiftModifier);
@@ -99,10 +103,12 @@ void Tour::typeOver(QLineEdit &editor, const QString &text) {
 }
 
 void Tour::start() {
-    require(mProgram.Start(), QStringLiteral("the program did not start"));
-    mProgram.Window().resize(kPageWidth, kPageHeight);
-    WindowInput::activate(mProgram.Window());
-    require(!mProgram.Component().GetCurrentFormName().isEmpty(), QStringLiteral("no form is open"));
+    mProgram.reset();
+    mProgram = mMakeProgram();
+    require(mProgram->Start(), QStringLiteral("the program did not start"));
+    mProgram->Window().resize(kPageWidth, kPageHeight);
+    WindowInput::activate(mProgram->Window());
+    require(!mProgram->Component().GetCurrentFormName().isEmpty(), QStringLiteral("no form is open"));
     picture(QStringLiteral("started"));
 }
 
@@ -116,7 +122,7 @@ void Tour::read() {
     trigger(QStringLiteral("mnuReadRadio"), QStringLiteral("read"));
     require(value(QStringLiteral("SerialNumber")) == mSerialNumber,
             QStringLiteral("after the read the serial number is %1").arg(value(QStringLiteral("SerialNumber"))));
-    require(mProgram.Component().GetCurrentTier() == QStringLiteral("Standard"),
+    require(mProgram->Component().GetCurrentTier() == QStringLiteral("Standard"),
             QStringLiteral("the radio's tier is not the current one"));
     picture(QStringLiteral("after-reading"));
 }
@@ -144,8 +150,8 @@ void Tour::beRefused() {
     require(mPilot.boxes().size() == 1, QStringLiteral("%1 messages instead of one").arg(mPilot.boxes().size()));
     require(mPilot.boxes().constFirst().contains(QStringLiteral("255")),
             QStringLiteral("the message does not say what is allowed: %1").arg(mPilot.boxes().constFirst()));
-    WindowInput::activate(mProgram.Window());
-    require(mProgram.Window().focusWidget() == &editor && editor.text() == QStringLiteral("999"),
+    WindowInput::activate(mProgram->Window());
+    require(mProgram->Window().focusWidget() == &editor && editor.text() == QStringLiteral("999"),
             QStringLiteral("the refused text lost the focus or was changed"));
     picture(QStringLiteral("refused"));
     WindowInput::key(Qt::Key_Escape);
@@ -156,7 +162,7 @@ void Tour::beRefused() {
 void Tour::save() {
     mDialogs.fileName = mFileName;
     trigger(QStringLiteral("mnuSave"), QStringLiteral("save"));
-    require(QFileInfo::exists(mFileName) && !mProgram.Component().GetDataIsDirty(),
+    require(QFileInfo::exists(mFileName) && !mProgram->Component().GetDataIsDirty(),
             QStringLiteral("the file was not saved"));
     const QString stored = outputOf(QCoreApplication::applicationDirPath() + QStringLiteral("/kx4600ctl"),
                                     {QStringLiteral("get"), mFileName, kTimer});
@@ -191,7 +197,17 @@ void Tour::verifyRadio() {
 }
 
 void Tour::leave() {
-    mPilot.during(QStringLiteral("closing"), [this] { mProgram.Window().close(); });
+    mPilot.during(QStringLiteral("closing"), [this] { mProgram->Window().close(); });
     require(mPilot.boxes().isEmpty(), QStringLiteral("closing asked although nothing would be lost"));
-    require(!mProgram.Window().isVisible(), QStringLiteral("the window did not close"));
+    require(!mProgram->Window().isVisible(), QStringLiteral("the window did not close"));
+}
+
+void Tour::readIntoFreshStart() {
+    start();
+    require(value(kTimer) == QStringLiteral("10"), QStringLiteral("the fresh start shows %1").arg(value(kTimer)));
+    read();
+    openForm(QStringLiteral("Economy"));
+    require(editorOf(kTimer).text() == QStringLiteral("20"),
+            QStringLiteral("the form does not show the radio's value"));
+    picture(QStringLiteral("read-afresh"));
 }

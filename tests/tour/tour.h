@@ -4,6 +4,9 @@
 #include "tour_dialogs.h"
 #include "tour_report.h"
 
+#include <functional>
+#include <memory>
+
 class frmMain;
 class MainProgram;
 class QLineEdit;
@@ -11,12 +14,16 @@ class QWidget;
 class RadioProcess;
 class Transformer;
 
-// The road through the program: interrogate, read, edit, be refused, save, open again, program, verify. Each step
-// fails by an exception.
+// The road through the program: interrogate, read, edit, be refused, save, open again, program, verify, and read into a
+// program that starts afresh. Each step fails by an exception.
 class Tour {
   public:
-    Tour(MainProgram &program, const RadioProcess &radio, TourDialogs &dialogs, TourReport &report,
+    using ProgramMaker = std::function<std::unique_ptr<MainProgram>()>;
+
+    Tour(ProgramMaker makeProgram, const RadioProcess &radio, TourDialogs &dialogs, TourReport &report,
          QString serialNumber);
+    ~Tour();
+    Q_DISABLE_COPY_MOVE(Tour)
     void walk();
 
   private:
@@ -31,6 +38,7 @@ class Tour {
     void verifyRadio();
     void lookAtForms();
     void leave();
+    void readIntoFreshStart();
 
     void trigger(const QString &action, const QString &picture);
     void openForm(const QString &caption);
@@ -39,7 +47,8 @@ class Tour {
     [[nodiscard]] QLineEdit &editorOf(const QString &uiid) const;
     [[nodiscard]] QString value(const QString &uiid) const;
 
-    MainProgram &mProgram;
+    ProgramMaker mMakeProgram;
+    std::unique_ptr<MainProgram> mProgram;
     const RadioProcess &mRadio;
     TourDialogs &mDialogs;
     TourReport &mReport;

@@ -16,6 +16,7 @@ constexpr Twips kLeastGridHeight{1020};
 
 std::vector<FieldRow> oneEach(const std::vector<ControlDefinition> &controls) {
     std::vector<FieldRow> rows;
+    rows.reserve(controls.size());
     for (const ControlDefinition &control : controls)
         rows.push_back({&control});
     return rows;

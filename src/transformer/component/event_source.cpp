@@ -32,8 +32,8 @@ template <class Listener>
 void EventSource::walk(const std::vector<Listener *> &listeners, const std::function<void(Listener &)> &event) {
     {
         const QScopedValueRollback<int> depth(mDepth, mDepth + 1);
-        const std::vector<Listener *> present = listeners;
-        for (Listener *listener : present) {
+        // A copy: a listener may leave, and another come, during an event.
+        for (Listener *listener : std::vector<Listener *>(listeners)) {
             if (std::ranges::find(listeners, listener) != listeners.end())
                 event(*listener);
         }
