@@ -2,6 +2,7 @@
 
 #include "control_registry.h"
 #include "field_properties.h"
+#include "fld_grid_field.h"
 #include "form_definition.h"
 
 #include <QTabWidget>
@@ -16,6 +17,7 @@ void FormControls::Build(const FormDefinition &definition, const FieldServices &
             addControl(file, placed, services, registry, form);
     }
     mByDefinition.clear();
+    introduceGrids();
     chainFocus();
 }
 
@@ -77,6 +79,13 @@ void FormControls::HideEmptyPages() {
         for (const std::unique_ptr<FieldHost> &host : mHosts)
             used = used || (host->Widget()->parentWidget() == mTabWidget->widget(page) && host->Visible());
         mTabWidget->setTabVisible(page, used);
+    }
+}
+
+void FormControls::introduceGrids() const {
+    for (const std::unique_ptr<FieldHost> &host : mHosts) {
+        if (auto *grid = qobject_cast<fldGridField *>(host->Widget()))
+            grid->SetFormControls(mAll);
     }
 }
 

@@ -40,6 +40,8 @@ class FormControls {
                     const ControlRegistry &registry, QWidget &form);
     void enter(std::unique_ptr<FieldHost> host, const ControlDefinition &definition);
     [[nodiscard]] QWidget &parentOf(const PlacedControl &placed, QWidget &form) const;
+    // The grids look for their neighbours on the form.
+    void introduceGrids() const;
     void chainFocus() const;
 
     std::vector<std::unique_ptr<FieldHost>> mHosts;

@@ -1,8 +1,16 @@
 #include "form_factory.h"
 
 #include "data_form.h"
+#include "fld_sub_form_call_up.h"
 
 #include <algorithm>
+
+FormFactory::FormFactory() {
+    mRegistry.Add(QStringLiteral("fldSubFormCallUp"),
+                  [this](const FieldServices &services, const FieldProperties &properties, QWidget *parent) {
+                      return new fldSubFormCallUp(services, properties, mSubForms, parent);
+                  });
+}
 
 bool FormFactory::CanCreate(const QString &name) {
     if (!mCatalogue.contains(name))

@@ -2,6 +2,7 @@
 
 #include "control_registry.h"
 #include "form_catalogue.h"
+#include "sub_forms.h"
 
 class DataForm;
 class QWidget;
@@ -9,7 +10,10 @@ class QWidget;
 // Makes forms by their names, which are compared without regard to case.
 class FormFactory {
   public:
-    // Further control classes may be entered here; those of the fields and frames are there.
+    FormFactory();
+    Q_DISABLE_COPY_MOVE(FormFactory)
+
+    // Further control classes may be entered here; those of the fields, frames and buttons are there.
     [[nodiscard]] ControlRegistry &Registry() { return mRegistry; }
 
     // There is such a form, and each of its controls can be made.
@@ -21,4 +25,5 @@ class FormFactory {
   private:
     FormCatalogue mCatalogue;
     ControlRegistry mRegistry;
+    SubForms mSubForms{*this};
 };

@@ -60,7 +60,7 @@ class fldPageNavigator final : public EditableField, public Inavigator, public N
     void Inavigator_ForcePositionChange(qint32 lngPosition) override;
     QString Inavigator_StoragePositionUIID() const override { return mPositionStorageUIID; }
     QString Inavigator_GridControl() const override { return mGridControl; }
-    bool ButtonAdd() const override { return mParts.shows(NavigatorButton::kAdd); }
+    [[nodiscard]] bool ButtonAdd() const override { return mParts.shows(NavigatorButton::kAdd); }
 
     // Widened to 6000 twips if narrower; the height follows from the slider.
     TwipSize SetControlSize(const TwipSize &size) override;

@@ -89,9 +89,8 @@ class frmMain final : public QMainWindow, public FormShell, public TransformerEv
     // As TransformerEvents_GeneralDialog, for the shell's own questions.
     void GeneralDialog(const QString &Prompt, qint32 Buttons, const QString &Title, qint32 &Answer,
                        const QString &strParameters);
-    // While true the component's messages are answered with 6 and not shown.
     [[nodiscard]] bool SilentMode() const;
-    void SilentMode(bool silent);
+    void SilentMode(bool silent) override;
     [[nodiscard]] const HostedForm &LoadedUsrControl() const;
     [[nodiscard]] bool ChangingForms() const override;
     // What the component wrote, for tests.
