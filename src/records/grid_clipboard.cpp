@@ -15,10 +15,6 @@
 #include <algorithm>
 
 namespace {
-constexpr qint32 kCut = 1;
-constexpr qint32 kCopy = 2;
-constexpr qint32 kPaste = 4;
-
 bool addsRecordsOf(const HostControl *control, const QString &gridId) {
     Ifield *const field = control->object();
     const auto *navigator = dynamic_cast<const Inavigator *>(field);
@@ -39,7 +35,7 @@ std::optional<GridColumnFacts> GridClipboard::currentColumn() const {
 }
 
 qint32 GridClipboard::Ifield_GetEditOperations() try {
-    return (offersPaste() ? kPaste : 0) | (mGrid.Table().Bookmark() ? cellOperations() : 0);
+    return (offersPaste() ? EditOperation::kPaste : 0) | (mGrid.Table().Bookmark() ? cellOperations() : 0);
 }
 ERROR_TAIL(0)
 
@@ -69,8 +65,8 @@ bool GridClipboard::cutsFromEditor() const {
 qint32 GridClipboard::cellOperations() const {
     const auto column = currentColumn();
     if (!column || column->type != ColumnType::kText || !mGrid.Table().EditActive())
-        return kCopy;
-    return cutsFromEditor() ? kCut | kCopy : 0;
+        return EditOperation::kCopy;
+    return cutsFromEditor() ? EditOperation::kCut | EditOperation::kCopy : 0;
 }
 
 void GridClipboard::mnuCopy_Click() try {

@@ -8,6 +8,13 @@
 class GridSurface;
 struct GridColumnFacts;
 
+// Bits of the edit commands that now apply.
+namespace EditOperation {
+inline constexpr qint32 kCut = 1;
+inline constexpr qint32 kCopy = 2;
+inline constexpr qint32 kPaste = 4;
+} // namespace EditOperation
+
 // The edit commands of a grid. Selected rows are copied as records, a cell as its value; pasted text of several values
 // goes to the component as records, one value into the current cell. Text is read with either kind of line end and
 // written with CR LF.
@@ -16,7 +23,6 @@ class GridClipboard {
     // Both outlive this.
     GridClipboard(GridSurface &grid, const FieldServices &services);
 
-    // Bits: 1 cut, 2 copy, 4 paste.
     [[nodiscard]] qint32 Ifield_GetEditOperations();
     // With nothing to copy the clipboard becomes empty.
     void mnuCopy_Click();

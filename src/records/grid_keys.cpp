@@ -2,6 +2,7 @@
 
 #include "common_error_handler.h"
 #include "grid_cell_writer.h"
+#include "grid_clipboard.h"
 #include "grid_fill.h"
 #include "grid_menu.h"
 #include "grid_surface.h"
@@ -11,17 +12,19 @@
 
 #include <algorithm>
 
-// The paste comes by the menu of the window, so its keys do nothing here.
 struct GridKeys::Command {
     int key;
     Qt::KeyboardModifiers modifiers;
     void (GridKeys::*run)();
+    bool whileEditing = true; // false: the cell editor has a use for the key itself
 };
 
+// Copy and paste come by the menu of the window; their keys arrive here only where it has not taken them.
 const GridKeys::Command GridKeys::kCommands[] = {
-    {Qt::Key_F1, Qt::ShiftModifier, &GridKeys::showHelp},    {Qt::Key_Menu, Qt::NoModifier, &GridKeys::showMenu},
-    {Qt::Key_V, Qt::ControlModifier, &GridKeys::nothing},    {Qt::Key_Home, Qt::ControlModifier, &GridKeys::moveFirst},
-    {Qt::Key_End, Qt::ControlModifier, &GridKeys::moveLast}, {Qt::Key_D, Qt::ControlModifier, &GridKeys::fillDown},
+    {Qt::Key_F1, Qt::ShiftModifier, &GridKeys::showHelp},      {Qt::Key_Menu, Qt::NoModifier, &GridKeys::showMenu},
+    {Qt::Key_V, Qt::ControlModifier, &GridKeys::paste},        {Qt::Key_C, Qt::ControlModifier, &GridKeys::copy, false},
+    {Qt::Key_Home, Qt::ControlModifier, &GridKeys::moveFirst}, {Qt::Key_End, Qt::ControlModifier, &GridKeys::moveLast},
+    {Qt::Key_D, Qt::ControlModifier, &GridKeys::fillDown},
 };
 
 namespace {
@@ -44,8 +47,9 @@ bool writes(const QKeyEvent &key) {
 }
 } // namespace
 
-GridKeys::GridKeys(GridSurface &grid, const FieldServices &services, GridFill &fill, GridMenu &menu)
-    : mGrid(grid), mShell(services.shell), mErrors(services.errors), mFill(fill), mMenu(menu) {}
+GridKeys::GridKeys(GridSurface &grid, const FieldServices &services, GridClipboard &clipboard, GridFill &fill,
+                   GridMenu &menu)
+    : mGrid(grid), mShell(services.shell), mErrors(services.errors), mClipboard(clipboard), mFill(fill), mMenu(menu) {}
 
 bool GridKeys::TDBGrid1_KeyDown(const QKeyEvent &key) try {
     if (mShell.ChangingForms())
@@ -66,8 +70,10 @@ ERROR_TAIL(false)
 
 bool GridKeys::runCommand(const QKeyEvent &key) {
     const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
-    const auto *const found = std::ranges::find_if(
-        kCommands, [&](const Command &command) { return command.key == key.key() && command.modifiers == modifiers; });
+    const bool editing = mGrid.Table().EditActive();
+    const auto *const found = std::ranges::find_if(kCommands, [&](const Command &command) {
+        return command.key == key.key() && command.modifiers == modifiers && (command.whileEditing || !editing);
+    });
     if (found == std::end(kCommands))
         return false;
     (this->*found->run)();
@@ -157,6 +163,13 @@ void GridKeys::TDBGrid1_GotFocus(Qt::FocusReason reason) try {
         mGrid.RebindIDTrackerDropdown();
 }
 ERROR_TAIL()
+
+void GridKeys::copy() { mClipboard.mnuCopy_Click(); }
+
+void GridKeys::paste() {
+    if ((mClipboard.Ifield_GetEditOperations() & EditOperation::kPaste) != 0)
+        mClipboard.mnuPaste_Click();
+}
 
 void GridKeys::fillDown() { mFill.FillDown(); }
 void GridKeys::showMenu() { mMenu.ShowAtCell(); }

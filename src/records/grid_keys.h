@@ -6,6 +6,7 @@
 
 #include <Qt>
 
+class GridClipboard;
 class GridFill;
 class GridMenu;
 class QKeyEvent;
@@ -15,7 +16,8 @@ class QKeyEvent;
 class GridKeys {
   public:
     // All outlive this.
-    GridKeys(GridSurface &grid, const FieldServices &services, GridFill &fill, GridMenu &menu);
+    GridKeys(GridSurface &grid, const FieldServices &services, GridClipboard &clipboard, GridFill &fill,
+             GridMenu &menu);
 
     // True: the key is swallowed.
     bool TDBGrid1_KeyDown(const QKeyEvent &key);
@@ -44,11 +46,13 @@ class GridKeys {
     void showHelp();
     void moveFirst();
     void moveLast();
-    void nothing() {}
+    void copy();
+    void paste();
 
     GridSurface &mGrid;
     FormShell &mShell;
     ErrorReport &mErrors;
+    GridClipboard &mClipboard;
     GridFill &mFill;
     GridMenu &mMenu;
 };

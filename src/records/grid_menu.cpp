@@ -10,12 +10,6 @@
 #include <QContextMenuEvent>
 #include <QMenu>
 
-namespace {
-constexpr qint32 kCut = 1;
-constexpr qint32 kCopy = 2;
-constexpr qint32 kPaste = 4;
-} // namespace
-
 GridMenu::GridMenu(GridSurface &grid, const FieldServices &services, GridClipboard &clipboard)
     : mGrid(grid), mServices(services), mErrors(services.errors), mClipboard(clipboard),
       mMenu(new QMenu(grid.Control())), mCut(addCommand("mnuCut", "Cu&t", &GridClipboard::mnuCut_Click)),
@@ -52,9 +46,9 @@ void GridMenu::TDBGrid1_MouseDown() { mPaste->setEnabled(!mGrid.Component().GetF
 
 void GridMenu::mnuPopup_Click() {
     const qint32 operations = mClipboard.Ifield_GetEditOperations();
-    mCut->setEnabled((operations & kCut) != 0);
-    mCopy->setEnabled((operations & kCopy) != 0);
-    mPaste->setEnabled((operations & kPaste) != 0);
+    mCut->setEnabled((operations & EditOperation::kCut) != 0);
+    mCopy->setEnabled((operations & EditOperation::kCopy) != 0);
+    mPaste->setEnabled((operations & EditOperation::kPaste) != 0);
 }
 
 void GridMenu::ShowAtCell() {

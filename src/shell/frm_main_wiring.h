@@ -9,6 +9,7 @@
 #include "document_front.h"
 #include "document_shell_adapter.h"
 #include "edit_commands.h"
+#include "edit_shortcuts.h"
 #include "event_sink.h"
 #include "features_menu.h"
 #include "field_details.h"
@@ -111,6 +112,7 @@ struct frmMain::Wiring {
     AccessLevels levels{with.transformer, with.process, nodes, host, menu, texts, with.errors};
     FormCommands formCommands{with.transformer, with.process, host, nodes, navigation, with.errors};
     EditCommands editCommands{with.process, host, menu, with.clipboard, with.errors};
+    EditShortcuts editShortcuts{window, menu, editCommands};
 
     // Documents and radio
     DocumentShellAdapter documentShell{

@@ -186,7 +186,7 @@ void tst_grid_input::keysAreSwallowed_data() {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("state"); // words: locked, fixed, norow, opening
+    QTest::addColumn<QString>("state"); // words: locked, fixed, norow, opening, edit
     QTest::addColumn<bool>("swallowed");
     QTest::addColumn<QString>("done");
     const auto add = [](const char *name, int key, int modifiers, const char *text, const char *state, bool swallowed,
@@ -201,8 +201,11 @@ void tst_grid_input::keysAreSwallowed_data() {
     add("a move, locked", Qt::Key_Down, 0, "", "locked", false);
     add("Enter, locked", Qt::Key_Return, 0, "\r", "locked", false);
     add("Delete, locked", Qt::Key_Delete, 0, "", "locked", true);
-    add("copy, locked", Qt::Key_C, Qt::ControlModifier, "\3", "locked", false);
-    add("Ctrl+V", Qt::Key_V, Qt::ControlModifier, "\26", "", true);
+    add("Ctrl+C", Qt::Key_C, Qt::ControlModifier, "\3", "locked", true);
+    add("Ctrl+C, editing", Qt::Key_C, Qt::ControlModifier, "\3", "edit", false);
+    add("Ctrl+V", Qt::Key_V, Qt::ControlModifier, "\26", "", true,
+        "BeginBatchUpdate()grdFreq.SetValue(x, false)EndBatchUpdate()");
+    add("Ctrl+V, locked", Qt::Key_V, Qt::ControlModifier, "\26", "locked", true);
     add("Esc", Qt::Key_Escape, 0, "\33", "", true, "raise Escape()");
     add("Esc, locked", Qt::Key_Escape, 0, "\33", "locked", true);
     add("Esc, no row", Qt::Key_Escape, 0, "\33", "norow", false);
@@ -223,6 +226,8 @@ void tst_grid_input::keysAreSwallowed() {
     bench.grid.columns[0].locked = state.contains(QStringLiteral("locked"));
     bench.grid.design.Dynamic = !state.contains(QStringLiteral("fixed"));
     bench.grid.services.shell.changingForms = state.contains(QStringLiteral("opening"));
+    bench.grid.editing = state.contains(QStringLiteral("edit"));
+    bench.grid.services.clipboard.SetText(QStringLiteral("x"));
     if (state.contains(QStringLiteral("norow")))
         bench.grid.bookmark.reset();
     QTEST(bench.press(key, Qt::KeyboardModifiers(modifiers), text), "swallowed");
