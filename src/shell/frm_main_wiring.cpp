@@ -37,7 +37,7 @@ void frmMain::Wiring::nameParts() {
 
 void frmMain::Wiring::connectCommands() {
     // A command that has no row comes with later work and stays disabled.
-    const std::array<std::pair<const char *, std::function<void()>>, 20> commands{{
+    const std::array<std::pair<const char *, std::function<void()>>, 24> commands{{
         {"mnuNew", [this] { documentCommands.mnuNew_Click(); }},
         {"mnuOpen", [this] { documentCommands.mnuOpen_Click(); }},
         {"mnuSave", [this] { documentCommands.mnuSave_Click(); }},
@@ -58,6 +58,10 @@ void frmMain::Wiring::connectCommands() {
         {"mnuRevertForm", [this] { formCommands.mnuRevertForm_Click(); }},
         {"mnuAccept", [this] { formCommands.mnuAccept_Click(); }},
         {"mnuReject", [this] { formCommands.mnuReject_Click(); }},
+        {"mnuContents", [this] { help.mnuContents_Click(); }},
+        {"mnuWhatsThisHelp", [this] { help.mnuWhatsThisHelp_Click(); }},
+        {"mnuMobilesSupport", [this] { webPages.mnuMobilesSupport_Click(); }},
+        {"mnuHomePage", [this] { webPages.mnuHomePage_Click(); }},
     }};
     for (const auto &[name, command] : commands)
         menu.Connect(QString::fromLatin1(name), command);
@@ -71,4 +75,11 @@ void frmMain::Wiring::connectCommands() {
     QObject::connect(&tree, &FormTreeWidget::NodeChosen, &tree, [this] { navigation.FormTree_NodeClick(); });
     QObject::connect(&menu.Menu(QStringLiteral("mnuEdit")), &QMenu::aboutToShow, &tree,
                      [this] { editCommands.mnuEdit_Click(); });
+}
+
+void frmMain::Wiring::runStandardButton(const QString &key) {
+    if (key == QStringLiteral("Help"))
+        help.ShowFormTopic();
+    else
+        toolBarCommands.Run(key);
 }

@@ -20,6 +20,8 @@
 #include "form_tree_widget.h"
 #include "frm_main.h"
 #include "green_ticks.h"
+#include "help_commands.h"
+#include "help_web_pages.h"
 #include "language_setup.h"
 #include "load_failure.h"
 #include "main_error_sink.h"
@@ -49,6 +51,8 @@ struct frmMain::Wiring {
     Wiring(frmMain &window, const ShellServices &services);
 
     void connectCommands();
+    // The help button opens the page of the form; every other button runs a menu command.
+    void runStandardButton(const QString &key);
     void nameParts();
 
     frmMain &window;
@@ -74,7 +78,7 @@ struct frmMain::Wiring {
                              QStringLiteral("Standard tool bar"),
                              ShellToolBars::standardRows(),
                              texts,
-                             [this](const QString &key) { toolBarCommands.Run(key); }};
+                             [this](const QString &key) { runStandardButton(key); }};
     ShellToolBar radioBar{&area,
                           QStringLiteral("tbrRadio"),
                           QStringLiteral("Radio tool bar"),
@@ -106,6 +110,10 @@ struct frmMain::Wiring {
     AccessLevels levels{with.transformer, with.process, nodes, host, menu, texts, with.errors};
     FormCommands formCommands{with.transformer, with.process, host, nodes, navigation, with.errors};
     EditCommands editCommands{with.process, host, menu, with.clipboard, with.errors};
+
+    // Help
+    HelpCommands help{with.process, with.transformer, with.translation, with.boxes, {window, host, nodes}, with.errors};
+    HelpWebPages webPages{with.transformer, with.boxes, with.errors};
 
     // Documents and radio
     DocumentShellAdapter documentShell{
