@@ -52,6 +52,8 @@ class frmMain final : public QMainWindow, public FormShell, public TransformerEv
     void ResetToDefaults();
     void ShowWhatsThisHelp(qint32 HelpContextID) override;
     [[nodiscard]] bool ValidFormControlNameForTier(const QString &strFormControlName) const;
+    // False for a form that this program cannot build.
+    [[nodiscard]] bool CanOpen(const QString &usrfrmName) const;
     bool OpenForm(const QString &usrfrmName, const QString &usrfrmDesc, bool blnDoWeSaveFormImmediately);
     bool SaveForm();
     bool CloseForm(bool SaveNow);

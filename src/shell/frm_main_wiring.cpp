@@ -39,7 +39,7 @@ void frmMain::Wiring::nameParts() {
 
 void frmMain::Wiring::connectCommands() {
     // A command that has no row comes with later work and stays disabled.
-    const std::array<std::pair<const char *, std::function<void()>>, 21> commands{{
+    const std::pair<const char *, std::function<void()>> commands[] = {
         {"mnuNew", [this] { documentCommands.mnuNew_Click(); }},
         {"mnuOpen", [this] { documentCommands.mnuOpen_Click(); }},
         {"mnuSave", [this] { documentCommands.mnuSave_Click(); }},
@@ -61,7 +61,11 @@ void frmMain::Wiring::connectCommands() {
         {"mnuRevertForm", [this] { formCommands.mnuRevertForm_Click(); }},
         {"mnuAccept", [this] { formCommands.mnuAccept_Click(); }},
         {"mnuReject", [this] { formCommands.mnuReject_Click(); }},
-    }};
+        {"mnuContents", [this] { help.mnuContents_Click(); }},
+        {"mnuWhatsThisHelp", [this] { help.mnuWhatsThisHelp_Click(); }},
+        {"mnuMobilesSupport", [this] { webPages.mnuMobilesSupport_Click(); }},
+        {"mnuHomePage", [this] { webPages.mnuHomePage_Click(); }},
+    };
     for (const auto &[name, command] : commands)
         menu.Connect(QString::fromLatin1(name), command);
     toolBarCommands.DisableUnconnected(standardBar);
@@ -86,4 +90,11 @@ void frmMain::Wiring::showPreferences() {
     frmPreferences dialog({with.transformer, with.translation, with.boxes, with.errors, ports}, &window);
     dialog.Form_Load();
     dialog.exec();
+}
+
+void frmMain::Wiring::runStandardButton(const QString &key) {
+    if (key == QStringLiteral("Help"))
+        help.ShowFormTopic();
+    else
+        toolBarCommands.Run(key);
 }

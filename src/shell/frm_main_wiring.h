@@ -22,6 +22,8 @@
 #include "form_tree_widget.h"
 #include "frm_main.h"
 #include "green_ticks.h"
+#include "help_commands.h"
+#include "help_web_pages.h"
 #include "language_setup.h"
 #include "load_failure.h"
 #include "main_error_sink.h"
@@ -52,6 +54,8 @@ struct frmMain::Wiring {
     Wiring(frmMain &window, const ShellServices &services);
 
     void connectCommands();
+    // The help button opens the page of the form; every other button runs a menu command.
+    void runStandardButton(const QString &key);
     void nameParts();
     void showNewLanguage();
     void showPreferences();
@@ -80,7 +84,7 @@ struct frmMain::Wiring {
                              QStringLiteral("Standard tool bar"),
                              ShellToolBars::standardRows(),
                              texts,
-                             [this](const QString &key) { toolBarCommands.Run(key); }};
+                             [this](const QString &key) { runStandardButton(key); }};
     ShellToolBar radioBar{&area,
                           QStringLiteral("tbrRadio"),
                           QStringLiteral("Radio tool bar"),
@@ -113,6 +117,10 @@ struct frmMain::Wiring {
     FormCommands formCommands{with.transformer, with.process, host, nodes, navigation, with.errors};
     EditCommands editCommands{with.process, host, menu, with.clipboard, with.errors};
     EditShortcuts editShortcuts{window, menu, editCommands};
+
+    // Help
+    HelpCommands help{with.process, with.transformer, with.translation, with.boxes, {window, host, nodes}, with.errors};
+    HelpWebPages webPages{with.transformer, with.boxes, with.errors};
 
     // Documents and radio
     DocumentShellAdapter documentShell{

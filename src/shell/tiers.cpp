@@ -95,7 +95,7 @@ void Tiers::switchTo(const QString &key) {
 void Tiers::ChangeToTier(const QString &TierKey, const FormLists &lists, bool &Result) try {
     Result = false;
     mTransformer.SaveSetting(QStringLiteral("Helpfile"),
-                             mTranslation.NLSStr(HelpFileName::of(mTransformer.GetRadioModel())));
+                             mTranslation.NLSStr(HelpFileName::compiled(mTransformer.GetRadioModel())));
     if (const qint32 button = mParts.buttons.IndexOfKey(TierKey))
         mParts.buttons.Press(button);
     mParts.filterTabs.UpdateTreeFilterTab();
