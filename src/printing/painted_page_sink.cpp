@@ -1,0 +1,81 @@
+#include "painted_page_sink.h"
+
+#include "run_time_error.h"
+
+#include <QFontDatabase>
+#include <QFontMetricsF>
+#include <QPageLayout>
+#include <QPagedPaintDevice>
+
+namespace {
+constexpr double kCentimetresPerInch = 2.54;
+constexpr double kMillimetresPerCentimetre = 10;
+constexpr int kPointSize = 10;
+} // namespace
+
+PaintedPageSink::~PaintedPageSink() = default;
+
+void PaintedPageSink::raisePrinterError() {
+    throw RunTimeError(ErrorNumber::kPrinter, QStringLiteral("PageSink"), QStringLiteral("Printer error"));
+}
+
+QStringList PaintedPageSink::Fonts() const { return QFontDatabase::families(); }
+
+PageFrame PaintedPageSink::Frame() const {
+    const QRectF printable = device().pageLayout().paintRect(QPageLayout::Millimeter);
+    return {printable.left() / kMillimetresPerCentimetre, printable.top() / kMillimetresPerCentimetre,
+            printable.width() / kMillimetresPerCentimetre, printable.height() / kMillimetresPerCentimetre};
+}
+
+void PaintedPageSink::SetFont(const QString &family, bool bold) {
+    if (mFont.family() == family && mFont.bold() == bold && mFont.pointSize() == kPointSize)
+        return;
+    mFont = QFont(family, kPointSize);
+    mFont.setBold(bold);
+    if (mPainter.isActive())
+        mPainter.setFont(QFont(mFont, &device()));
+}
+
+double PaintedPageSink::toPixels(double centimetres) const {
+    return centimetres / kCentimetresPerInch * device().logicalDpiX();
+}
+double PaintedPageSink::toCentimetres(double pixels) const {
+    return pixels / device().logicalDpiX() * kCentimetresPerInch;
+}
+
+double PaintedPageSink::TextWidth(const QString &text) const {
+    return toCentimetres(QFontMetricsF(mFont, &device()).horizontalAdvance(text));
+}
+
+double PaintedPageSink::TextHeight() const { return toCentimetres(QFontMetricsF(mFont, &device()).height()); }
+
+void PaintedPageSink::BeginDocument() {
+    if (!mPainter.begin(&device()) || hasFailed())
+        raisePrinterError();
+    mPainter.setFont(QFont(mFont, &device()));
+}
+
+void PaintedPageSink::PrintText(double x, double y, const QString &text) {
+    const double ascent = QFontMetricsF(mFont, &device()).ascent();
+    mPainter.drawText(QPointF(toPixels(x), toPixels(y) + ascent), text);
+}
+
+void PaintedPageSink::PrintRule(double left, double right, double y) {
+    mPainter.drawLine(QPointF(toPixels(left), toPixels(y)), QPointF(toPixels(right), toPixels(y)));
+}
+
+void PaintedPageSink::NewPage() {
+    if (!device().newPage() || hasFailed())
+        raisePrinterError();
+}
+
+void PaintedPageSink::EndDocument() {
+    stopPainting();
+    if (hasFailed())
+        raisePrinterError();
+}
+
+void PaintedPageSink::stopPainting() {
+    if (mPainter.isActive())
+        mPainter.end();
+}
