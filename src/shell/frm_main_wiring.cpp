@@ -37,13 +37,15 @@ void frmMain::Wiring::nameParts() {
 
 void frmMain::Wiring::connectCommands() {
     // A command that has no row comes with later work and stays disabled.
-    const std::array<std::pair<const char *, std::function<void()>>, 20> commands{{
+    const std::array<std::pair<const char *, std::function<void()>>, 22> commands{{
         {"mnuNew", [this] { documentCommands.mnuNew_Click(); }},
         {"mnuOpen", [this] { documentCommands.mnuOpen_Click(); }},
         {"mnuSave", [this] { documentCommands.mnuSave_Click(); }},
         {"mnuSaveAs", [this] { documentCommands.mnuSaveAs_Click(); }},
         {"mnuSquirt", [this] { documentCommands.mnuSquirt_Click(); }},
         {"mnuRevertToSaved", [this] { documentCommands.mnuRevertToSaved_Click(); }},
+        {"mnuPrint", [this] { print.mnuPrint_Click(); }},
+        {"mnuPrinterSettings", [this] { print.mnuPrinterSettings_Click(); }},
         {"mnuExit", [this] { shutDown.mnuExit_Click(); }},
         {"mnuUndo", [this] { formCommands.mnuUndo_Click(); }},
         {"mnuCut", [this] { editCommands.mnuCut_Click(); }},
