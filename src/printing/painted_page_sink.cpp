@@ -3,7 +3,6 @@
 #include "run_time_error.h"
 
 #include <QFontDatabase>
-#include <QFontMetricsF>
 #include <QPageLayout>
 #include <QPagedPaintDevice>
 
@@ -28,10 +27,11 @@ PageFrame PaintedPageSink::Frame() const {
 }
 
 void PaintedPageSink::SetFont(const QString &family, bool bold) {
-    if (mFont.family() == family && mFont.bold() == bold && mFont.pointSize() == kPointSize)
+    if (mMetrics && mFont.family() == family && mFont.bold() == bold)
         return;
     mFont = QFont(family, kPointSize);
     mFont.setBold(bold);
+    mMetrics.emplace(mFont, &device());
     if (mPainter.isActive())
         mPainter.setFont(QFont(mFont, &device()));
 }
@@ -44,10 +44,10 @@ double PaintedPageSink::toCentimetres(double pixels) const {
 }
 
 double PaintedPageSink::TextWidth(const QString &text) const {
-    return toCentimetres(QFontMetricsF(mFont, &device()).horizontalAdvance(text));
+    return mMetrics ? toCentimetres(mMetrics->horizontalAdvance(text)) : 0;
 }
 
-double PaintedPageSink::TextHeight() const { return toCentimetres(QFontMetricsF(mFont, &device()).height()); }
+double PaintedPageSink::TextHeight() const { return mMetrics ? toCentimetres(mMetrics->height()) : 0; }
 
 void PaintedPageSink::BeginDocument() {
     if (!mPainter.begin(&device()) || hasFailed())
@@ -56,7 +56,7 @@ void PaintedPageSink::BeginDocument() {
 }
 
 void PaintedPageSink::PrintText(double x, double y, const QString &text) {
-    const double ascent = QFontMetricsF(mFont, &device()).ascent();
+    const double ascent = mMetrics ? mMetrics->ascent() : 0;
     mPainter.drawText(QPointF(toPixels(x), toPixels(y) + ascent), text);
 }
 

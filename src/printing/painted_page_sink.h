@@ -3,7 +3,10 @@
 #include "page_sink.h"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QPainter>
+
+#include <optional>
 
 class QPagedPaintDevice;
 
@@ -36,5 +39,6 @@ class PaintedPageSink : public PageSink {
     [[nodiscard]] double toCentimetres(double pixels) const;
 
     QFont mFont;
+    std::optional<QFontMetricsF> mMetrics; // of the font on the device; none before the first SetFont
     QPainter mPainter;
 };
