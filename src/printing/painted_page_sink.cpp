@@ -18,7 +18,13 @@ void PaintedPageSink::raisePrinterError() {
     throw RunTimeError(ErrorNumber::kPrinter, QStringLiteral("PageSink"), QStringLiteral("Printer error"));
 }
 
-QStringList PaintedPageSink::Fonts() const { return QFontDatabase::families(); }
+// Families of several foundries are listed as "Courier [urw]".
+QStringList PaintedPageSink::Fonts() const {
+    QStringList fonts = QFontDatabase::families();
+    for (QString &name : fonts)
+        name = name.section(QStringLiteral(" ["), 0, 0);
+    return fonts;
+}
 
 PageFrame PaintedPageSink::Frame() const {
     const QRectF printable = device().pageLayout().paintRect(QPageLayout::Millimeter);
@@ -31,6 +37,7 @@ void PaintedPageSink::SetFont(const QString &family, bool bold) {
         return;
     mFont = QFont(family, kPointSize);
     mFont.setBold(bold);
+    mFont.setStyleStrategy(QFont::PreferNoShaping); // a ligature is neither as wide as two characters nor found again
     mMetrics.emplace(mFont, &device());
     if (mPainter.isActive())
         mPainter.setFont(QFont(mFont, &device()));
