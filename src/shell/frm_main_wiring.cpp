@@ -11,7 +11,6 @@
 #include <QStatusBar>
 #include <QToolBar>
 
-#include <array>
 
 frmMain::Wiring::Wiring(frmMain &ownWindow, const ShellServices &services) : window(ownWindow), with(services) {
     with.process.objTransformer = &with.transformer;
@@ -46,6 +45,8 @@ void frmMain::Wiring::connectCommands() {
         {"mnuSaveAs", [this] { documentCommands.mnuSaveAs_Click(); }},
         {"mnuSquirt", [this] { documentCommands.mnuSquirt_Click(); }},
         {"mnuRevertToSaved", [this] { documentCommands.mnuRevertToSaved_Click(); }},
+        {"mnuPrint", [this] { print.mnuPrint_Click(); }},
+        {"mnuPrinterSettings", [this] { print.mnuPrinterSettings_Click(); }},
         {"mnuExit", [this] { shutDown.mnuExit_Click(); }},
         {"mnuUndo", [this] { formCommands.mnuUndo_Click(); }},
         {"mnuCut", [this] { editCommands.mnuCut_Click(); }},

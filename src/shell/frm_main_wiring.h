@@ -30,6 +30,7 @@
 #include "main_menu.h"
 #include "pane_layout.h"
 #include "preferences_command.h"
+#include "print_commands.h"
 #include "recent_files.h"
 #include "resizing_area.h"
 #include "shell_tool_bar.h"
@@ -131,6 +132,7 @@ struct frmMain::Wiring {
     DocumentFront documents{documentCommands, fileIO, nodes};
     clsTalkToRadio radio{with.process, documentShell, with.boxes, with.errors,
                          [this](InterrogationType type) { with.progressWindow(type, &window); }};
+    PrintCommands print{forForms, {with.forms, nodes, host, pointer}, window};
 
     // Tiers, events, beginning and end
     Tiers tiers{with.transformer,
