@@ -2,8 +2,8 @@
 
 #include "csv_text.h"
 #include "field_reader.h"
-#include "record_import.h"
 #include "rule_evaluator.h"
+#include "table_import.h"
 #include "tool_session.h"
 #include "whole_file.h"
 
@@ -106,7 +106,7 @@ int Commands::importRecords(ToolSession &session) {
     if (rows.empty())
         session.fail(ExitCode::kFile, QStringLiteral("The file %1 has no line of column heads.").arg(words[1]));
     session.open(words.first());
-    RecordImport import(session, structure, ImportColumns::of(session.dictionary(), structure, rows.front()), rows);
+    TableImport import(session, structure, ImportColumns::of(session.dictionary(), structure, rows.front()), rows);
     std::set<qint32> leftOut;
     std::vector<RefusedCell> refused = import.run(leftOut);
     list(session, refused);

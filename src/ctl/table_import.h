@@ -25,10 +25,10 @@ struct ImportColumns {
 
 // Puts the rows of a table into the records of a structure: the nth row (of its parent) into the nth record, further
 // ones into new records. Columns that the table lacks keep their values; records beyond the table stay.
-class RecordImport {
+class TableImport {
   public:
-    RecordImport(ToolSession &session, const RecordStructure &structure, ImportColumns columns,
-                 const std::vector<QStringList> &rows);
+    TableImport(ToolSession &session, const RecordStructure &structure, ImportColumns columns,
+                const std::vector<QStringList> &rows);
 
     // One try on the data as it stands, without the rows of leftOut. What it answers with was not taken; the data has
     // the rest.

@@ -1,4 +1,4 @@
-#include "record_import.h"
+#include "table_import.h"
 
 #include "item_lists.h"
 #include "value_codec.h"
@@ -37,11 +37,11 @@ ImportColumns ImportColumns::of(const Dictionary &dictionary, const RecordStruct
     return columns;
 }
 
-RecordImport::RecordImport(ToolSession &session, const RecordStructure &structure, ImportColumns columns,
-                           const std::vector<QStringList> &rows)
+TableImport::TableImport(ToolSession &session, const RecordStructure &structure, ImportColumns columns,
+                         const std::vector<QStringList> &rows)
     : mSession(session), mStructure(structure), mColumns(std::move(columns)), mTable(rows), mSetter(session) {}
 
-std::vector<RefusedCell> RecordImport::run(const std::set<qint32> &leftOut) {
+std::vector<RefusedCell> TableImport::run(const std::set<qint32> &leftOut) {
     const TierData &data = mSession.state().current();
     const qint32 parents = mColumns.hasParent ? data.totalRecordCount(mStructure.parent) : 0;
     mRefused.clear();
@@ -58,7 +58,7 @@ std::vector<RefusedCell> RecordImport::run(const std::set<qint32> &leftOut) {
 }
 
 // Rows that are left out still count, so that the others keep their records.
-void RecordImport::place(qint32 number, const QStringList &cells, const std::set<qint32> &leftOut) {
+void TableImport::place(qint32 number, const QStringList &cells, const std::set<qint32> &leftOut) {
     const qint32 parent = parentOf(cells);
     const bool isLeftOut = leftOut.contains(number);
     if (parent < 0 && !isLeftOut)
@@ -83,7 +83,7 @@ void RecordImport::place(qint32 number, const QStringList &cells, const std::set
 }
 
 // 0 where the structure has no parents, -1 for one that does not exist.
-qint32 RecordImport::parentOf(const QStringList &cells) const {
+qint32 TableImport::parentOf(const QStringList &cells) const {
     if (!mColumns.hasParent)
         return 0;
     const qint32 parent = cells.first().trimmed().toInt();
@@ -91,7 +91,7 @@ qint32 RecordImport::parentOf(const QStringList &cells) const {
 }
 
 // The new record's number; 0 when it was refused.
-qint32 RecordImport::addRecord(qint32 parent) {
+qint32 TableImport::addRecord(qint32 parent) {
     mSession.selectParent(mStructure.index, {parent, 1});
     qint32 added = 0;
     bool ok = false;
@@ -101,7 +101,7 @@ qint32 RecordImport::addRecord(qint32 parent) {
 
 // Values depend on each other (limits by band, defaults that follow a choice, references to further rows), so the
 // cells are set again until nothing moves.
-void RecordImport::settle() {
+void TableImport::settle() {
     constexpr int kPasses = 8;
     const std::vector<RefusedCell> rowsRefused = mRefused;
     bool moves = true;
@@ -111,7 +111,7 @@ void RecordImport::settle() {
     }
 }
 
-bool RecordImport::setAll() {
+bool TableImport::setAll() {
     bool moves = false;
     for (const Row &row : mRows) {
         for (std::size_t column = 0; column < mColumns.fields.size(); ++column) {
@@ -127,7 +127,7 @@ bool RecordImport::setAll() {
 
 // Numbers that change places block each other: a record of the table that holds a wanted number and is to get another
 // one takes a free number meanwhile.
-bool RecordImport::freeIdentities() {
+bool TableImport::freeIdentities() {
     const auto column = std::ranges::find(mColumns.fields, mStructure.identity,
                                           [](const FieldDefinition *field) { return field->index; });
     if (column == mColumns.fields.end())
