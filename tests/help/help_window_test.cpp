@@ -1,4 +1,5 @@
 #include "cls_help.h"
+#include "help_bench.h"
 #include "help_browser.h"
 #include "help_commands.h"
 #include "help_file_name.h"
@@ -7,7 +8,6 @@
 #include "ifield.h"
 #include "message_style.h"
 #include "mod_common_help.h"
-#include "program_bench.h"
 #include "recording_transformer.h"
 #include "test_services.h"
 #include "transformer.h"
@@ -145,7 +145,7 @@ void HelpWindowTest::viewerSearchesByKeyboard() {
     window.setAttribute(Qt::WA_DeleteOnClose, false);
     window.ShowContents();
     WindowInput::activate(window);
-    ProgramBench::picture(window, QStringLiteral("help-contents"));
+    HelpBench::picture(window, QStringLiteral("help-contents"));
     WindowInput::key(Qt::Key_F, Qt::ControlModifier);
     QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("txtHelpSearch"));
     WindowInput::type(QStringLiteral("tone period"));
@@ -155,7 +155,7 @@ void HelpWindowTest::viewerSearchesByKeyboard() {
     QVERIFY(hits->count() > 1);
     WindowInput::key(Qt::Key_Return);
     QCOMPARE(window.Place(), QStringLiteral("usrctlSelcallToneSettings.html#TonePeriod"));
-    ProgramBench::picture(window, QStringLiteral("help-form"));
+    HelpBench::picture(window, QStringLiteral("help-form"));
     WindowInput::key(Qt::Key_Down);
     WindowInput::key(Qt::Key_Down);
     QCOMPARE(window.Place(), hits->item(1)->data(Qt::UserRole).toString());
@@ -166,9 +166,9 @@ void HelpWindowTest::viewerSearchesByKeyboard() {
 }
 
 void HelpWindowTest::keysLeadToTheFieldOnEachForm() {
-    ProgramBench bench;
+    HelpBench bench;
     int seen = 0;
-    for (const ProgramBench::Form &form : bench.forms()) {
+    for (const HelpBench::Form &form : bench.forms()) {
         bench.open(form);
         std::vector<Ifield *> fields = bench.usableFields();
         fields.resize(std::min<std::size_t>(fields.size(), 3));
@@ -193,7 +193,7 @@ void HelpWindowTest::keysLeadToTheFieldOnEachForm() {
 }
 
 void HelpWindowTest::whatsThisModeEndsWithAClick() {
-    ProgramBench bench;
+    HelpBench bench;
     bench.open({QStringLiteral("usrctlEconomyKX4600"), QStringLiteral("Economy")});
     auto *field = dynamic_cast<QWidget *>(bench.usableFields().front());
     bool shown = false;
@@ -204,7 +204,7 @@ void HelpWindowTest::whatsThisModeEndsWithAClick() {
         QTest::mouseClick(field->findChild<QLineEdit *>(), Qt::LeftButton);
         shown = smallWindow() != nullptr;
         if (shown)
-            ProgramBench::picture(*smallWindow(), QStringLiteral("help-whats-this"));
+            HelpBench::picture(*smallWindow(), QStringLiteral("help-whats-this"));
         QWhatsThis::leaveWhatsThisMode();
         click.stop();
     });
@@ -217,7 +217,7 @@ void HelpWindowTest::whatsThisModeEndsWithAClick() {
 }
 
 void HelpWindowTest::commandsOpenContentsAndFormPage() {
-    ProgramBench bench;
+    HelpBench bench;
     QCOMPARE(bench.component().GetSetting(QStringLiteral("HelpFile"), QString()).toString(),
              QStringLiteral("kx4kp_en.chm"));
     bench.open({QStringLiteral("usrctlStartupKX4600"), QStringLiteral("Start-up")});

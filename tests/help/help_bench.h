@@ -17,9 +17,9 @@ class QTreeWidget;
 
 // The whole program on the real component, headless, with settings and help pages of its own folder. The fullest radio
 // model is shown.
-class ProgramBench {
+class HelpBench {
   public:
-    ProgramBench();
+    HelpBench();
 
     ErrorReport errors{false};
     ScriptedMessageBoxes boxes;

@@ -1,4 +1,4 @@
-#include "program_bench.h"
+#include "help_bench.h"
 
 #include "ifield.h"
 #include "transformer.h"
@@ -19,7 +19,7 @@ void linkHelp() {
 }
 } // namespace
 
-ProgramBench::ProgramBench() {
+HelpBench::HelpBench() {
     for (const char *name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
         qputenv(name, (mHome.path() + u'/' + QString::fromLatin1(name)).toUtf8());
     linkHelp();
@@ -31,7 +31,7 @@ ProgramBench::ProgramBench() {
     WindowInput::activate(window());
 }
 
-std::vector<ProgramBench::Form> ProgramBench::forms() {
+std::vector<HelpBench::Form> HelpBench::forms() {
     QStringList tabs;
     QStringList keys;
     QStringList captions;
@@ -49,13 +49,13 @@ std::vector<ProgramBench::Form> ProgramBench::forms() {
     return result;
 }
 
-void ProgramBench::open(const Form &form) {
+void HelpBench::open(const Form &form) {
     if (!window().OpenForm(form.typeName, form.caption, true))
         failTest(QStringLiteral("%1 was not opened").arg(form.typeName));
     QCoreApplication::processEvents();
 }
 
-std::vector<Ifield *> ProgramBench::usableFields() {
+std::vector<Ifield *> HelpBench::usableFields() {
     std::vector<Ifield *> fields;
     for (HostControl *control : window().LoadedUsrControl().form->Iusrfrm_Controls()) {
         Ifield *field = control->object();
@@ -68,7 +68,7 @@ std::vector<Ifield *> ProgramBench::usableFields() {
     return fields;
 }
 
-void ProgramBench::picture(QWidget &widget, const QString &name) {
+void HelpBench::picture(QWidget &widget, const QString &name) {
     const QString folder = qEnvironmentVariable("KX4600_PICTURES");
     QCoreApplication::processEvents();
     if (!folder.isEmpty())
