@@ -17,6 +17,7 @@ class ReportFormShell final : public FormShell {
     void ShowWhatsThisHelp(qint32 /*HelpContextID*/) override {}
     void StartDrag(const QString & /*id*/, const QString & /*typeName*/) override {}
     void FinishedDrag() override {}
+    void SilentMode(bool /*silent*/) override {}
 
   private:
     const FormShell &mWindow;
