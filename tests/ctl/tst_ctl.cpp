@@ -177,10 +177,10 @@ void tst_ctl::differencesNameFormRecordAndLabel() {
 void tst_ctl::checkNamesWhatIsWrong() {
     const Outcome sound = run(QStringLiteral("check a.k4p"));
     QVERIFY2(sound.code == 0, qPrintable(sound.out));
-    QCOMPARE(run(QStringLiteral("set a.k4p Band_q7r=#2")).code, 0);
+    QCOMPARE(run(QStringLiteral("set a.k4p ChannelBandwidth_q7r(1)=#250")).code, 0);
     const Outcome outcome = run(QStringLiteral("check a.k4p"));
     QCOMPARE(outcome.code, 1);
-    QVERIFY2(outcome.out.contains(QStringLiteral("Channels 1: Rx Frequency")), qPrintable(outcome.out));
+    QVERIFY2(outcome.out.contains(QStringLiteral("Channels 1: Bandwidth")), qPrintable(outcome.out));
 }
 
 void tst_ctl::questionCountsAsNo() {

@@ -101,7 +101,6 @@ void ImportOperations::finish(const Grid &grid, const RecordImport::Outcome &out
         return;
     mState.positions().follow(mState.current(), outcome.changes);
     mState.journal.record(mState.tier(), outcome.changes);
-    mRecords.refreshGrid(grid.structure->guide);
     mNotifier.raiseAfterImport(outcome.changes);
     mState.events.raise([](TransformerEvents &listener) { listener.TransformerEvents_FieldHasChanged(); });
     mState.events.lastAction(

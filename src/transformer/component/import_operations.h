@@ -1,7 +1,7 @@
 #pragma once
 
+#include "change_notifier.h"
 #include "record_import.h"
-#include "record_operations.h"
 #include "translation.h"
 
 class SettingsStore;
@@ -10,9 +10,8 @@ struct PastedRows;
 // Rows of text pasted or dropped on a grid.
 class ImportOperations {
   public:
-    ImportOperations(ComponentState &state, FieldQueries &fields, RecordOperations &records,
-                     const SettingsStore &settings)
-        : mState(state), mFields(fields), mRecords(records), mSettings(settings), mNotifier(state, fields) {}
+    ImportOperations(ComponentState &state, FieldQueries &fields, const SettingsStore &settings)
+        : mState(state), mFields(fields), mSettings(settings), mNotifier(state, fields) {}
 
     // uiidList: the grid's columns, joined by "|". selectedRecords: record numbers likewise, which the first rows
     // overwrite; the others become new records. False when nothing was done.
@@ -29,7 +28,6 @@ class ImportOperations {
 
     ComponentState &mState;
     FieldQueries &mFields;
-    RecordOperations &mRecords;
     const SettingsStore &mSettings;
     ChangeNotifier mNotifier;
     Translation mTranslation; // of the language that is set

@@ -17,8 +17,6 @@ class RecordOperations {
     void RepeatRecord(const QString &uiid, qint32 recordNr, bool &ok);
     void DeleteRecord(const QString &uiid, qint32 recordNr, bool &ok);
     void SortColumn(const QString &uiid, bool ascending);
-    // Fills the structure's grids anew when the running command has ended.
-    void refreshGrid(const QString &guide) { mGrids.add(guide); }
     void batchEnded() { mGrids.schedule(); }
     void close() { mGrids.close(); }
 

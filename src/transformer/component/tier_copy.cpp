@@ -66,6 +66,7 @@ void TierCopy::copyIdentities(const FieldDefinition &field, const std::vector<Re
     if (records.empty())
         return;
     std::vector<IdentityPlan::Wish> wishes;
+    wishes.reserve(records.size());
     for (const RecordAddress record : records)
         wishes.push_back({record.number, mState.current().number(field, record)});
     IdentityPlan plan(target.data, field.structure, records.front().parent);

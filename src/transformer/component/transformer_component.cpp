@@ -26,7 +26,7 @@ TransformerComponent::TransformerComponent(const ComponentPlaces &places, std::f
       mLists(std::make_unique<ListQueries>(*mState, *mFields)),
       mEdits(std::make_unique<EditOperations>(*mState, *mFields)),
       mRecords(std::make_unique<RecordOperations>(*mState, *mFields)),
-      mImports(std::make_unique<ImportOperations>(*mState, *mFields, *mRecords, *mSettings)),
+      mImports(std::make_unique<ImportOperations>(*mState, *mFields, *mSettings)),
       mForms(std::make_unique<FormSession>(*mState)), mTiers(std::make_unique<TierOperations>(*mState)),
       mDocuments(std::make_unique<DocumentOperations>(*mState, *mTiers)),
       mRecovery(std::make_unique<RecoveryOperations>(*mState, *mDocuments)),

@@ -26,7 +26,7 @@ ItemList ItemListParser::read(const LoaderNames &names, const JsonReader &reader
     list.items.reserve(std::size_t(items.size()));
     QSet<qint32> values;
     QSet<QString> texts;
-    for (const QJsonValue &entry : items) {
+    for (const auto &entry : items) {
         ListItem item = readItem(names, reader, entry, qint32(list.items.size()), list.haveValues);
         if (values.contains(item.value))
             reader.refuse("items"_L1, u"the value %1 stands twice"_s.arg(item.value));
