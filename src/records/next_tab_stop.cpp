@@ -1,5 +1,7 @@
 #include "next_tab_stop.h"
 
+#include <QApplication>
+#include <QFocusEvent>
 #include <QWidget>
 
 namespace {
@@ -10,6 +12,10 @@ bool takesFocus(const HostControl &control) { return control.Enabled() && contro
 
 QWidget *follower(QWidget &widget, TabDirection direction) {
     return direction == TabDirection::kForward ? widget.nextInFocusChain() : widget.previousInFocusChain();
+}
+
+Qt::FocusReason reasonOf(TabDirection direction) {
+    return direction == TabDirection::kForward ? Qt::TabFocusReason : Qt::BacktabFocusReason;
 }
 
 bool isReachedByTab(const QWidget &widget, const QWidget &from) {
@@ -33,8 +39,18 @@ HostControl *NextTabStop(const HostControls &controls, qint32 tabIndex, TabDirec
     return found;
 }
 
+void focusByTab(HostControl &control, TabDirection direction) {
+    const QWidget *before = QApplication::focusWidget();
+    control.SetFocus();
+    QWidget *now = QApplication::focusWidget();
+    if (now == nullptr || now == before)
+        return;
+    QFocusEvent arrival(QEvent::FocusIn, reasonOf(direction));
+    QCoreApplication::sendEvent(now, &arrival);
+}
+
 void focusBeyond(QWidget &widget, TabDirection direction) {
-    const auto reason = direction == TabDirection::kForward ? Qt::TabFocusReason : Qt::BacktabFocusReason;
+    const auto reason = reasonOf(direction);
     for (QWidget *next = follower(widget, direction); next != nullptr && next != &widget;
          next = follower(*next, direction)) {
         if (!isReachedByTab(*next, widget))

@@ -199,6 +199,9 @@ void tst_grid_field::tabGoesFromCellToCellAndOut() {
     key(Qt::Key_Tab);
     QVERIFY(!bench.table.hasFocus());
     QVERIFY(after.isAncestorOf(QApplication::focusWidget()));
+    auto *text = after.findChild<QLineEdit *>(QStringLiteral("Text1"));
+    QCOMPARE(text->selectedText(), text->text()); // as after any other Tab
+    bench.goTo(0, 3);
     key(Qt::Key_Backtab, Qt::ShiftModifier); // comes back to the last cell
     QVERIFY(bench.table.hasFocus());
     QCOMPARE(bench.at(), (GridCell{1, 8}));
