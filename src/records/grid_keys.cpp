@@ -130,7 +130,7 @@ void GridKeys::leave(TabDirection direction) {
     if (cancel || mGrid.Terminated())
         return;
     if (HostControl *next = neighbour(direction)) {
-        next->SetFocus();
+        focusByTab(*next, direction);
         return;
     }
     if (direction == TabDirection::kForward)

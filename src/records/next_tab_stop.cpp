@@ -1,5 +1,7 @@
 #include "next_tab_stop.h"
 
+#include "field_host.h"
+
 #include <QWidget>
 
 namespace {
@@ -10,6 +12,10 @@ bool takesFocus(const HostControl &control) { return control.Enabled() && contro
 
 QWidget *follower(QWidget &widget, TabDirection direction) {
     return direction == TabDirection::kForward ? widget.nextInFocusChain() : widget.previousInFocusChain();
+}
+
+Qt::FocusReason reasonOf(TabDirection direction) {
+    return direction == TabDirection::kForward ? Qt::TabFocusReason : Qt::BacktabFocusReason;
 }
 
 bool isReachedByTab(const QWidget &widget, const QWidget &from) {
@@ -33,13 +39,21 @@ HostControl *NextTabStop(const HostControls &controls, qint32 tabIndex, TabDirec
     return found;
 }
 
+void focusByTab(HostControl &control, TabDirection direction) {
+    const auto *host = dynamic_cast<const FieldHost *>(&control);
+    QWidget *part = host == nullptr || host->Widget() == nullptr ? nullptr : host->Widget()->focusProxy();
+    if (part == nullptr)
+        control.SetFocus();
+    else
+        part->setFocus(reasonOf(direction));
+}
+
 void focusBeyond(QWidget &widget, TabDirection direction) {
-    const auto reason = direction == TabDirection::kForward ? Qt::TabFocusReason : Qt::BacktabFocusReason;
     for (QWidget *next = follower(widget, direction); next != nullptr && next != &widget;
          next = follower(*next, direction)) {
         if (!isReachedByTab(*next, widget))
             continue;
-        next->setFocus(reason);
+        next->setFocus(reasonOf(direction));
         return;
     }
 }
