@@ -3,7 +3,6 @@
 
 #include <QApplication>
 #include <QDropEvent>
-#include <QHeaderView>
 #include <QMimeData>
 #include <QTest>
 
@@ -19,17 +18,14 @@ class tst_grid_records : public QObject {
   private Q_SLOTS:
     void recordsAreMadeWhereTheyBelong_data();
     void recordsAreMadeWhereTheyBelong();
-    void addWorksOnAnEmptyGrid();
     void deleteTakesTheSelectedRows_data();
     void deleteTakesTheSelectedRows();
     void typedTextNeverReachesAnotherRecord_data();
     void typedTextNeverReachesAnotherRecord();
     void anInvalidCellHoldsTheCommandsBack();
-    void headClickSorts();
     void fillDownCopiesTheFirstValue();
     void pasteReplacesACell();
     void aCellIsDraggedOntoAnother();
-    void copiedRowsHaveTheirHeads();
     void tabRunsThroughTheCells();
 };
 
@@ -63,18 +59,6 @@ void tst_grid_records::recordsAreMadeWhereTheyBelong() {
     QCOMPARE(bench.table().SelBookmarks(), std::vector<qint32>{5});
     QVERIFY(bench.showsItsData());
     QVERIFY(bench.table().hasFocus());
-}
-
-void tst_grid_records::addWorksOnAnEmptyGrid() {
-    ChannelBench bench(2);
-    bench.grid.Ifield_SelectAll();
-    bench.press("cmdDelete");
-    const qint32 left = bench.component.GetNumberOfRecords(kRxFreq);
-    QCOMPARE(bench.table().ApproxCount(), left);
-    bench.press("cmdInsert");
-    bench.press("cmdAdd");
-    QVERIFY(bench.component.GetNumberOfRecords(kRxFreq) > left);
-    QVERIFY(bench.showsItsData());
 }
 
 void tst_grid_records::deleteTakesTheSelectedRows_data() {
@@ -142,16 +126,6 @@ void tst_grid_records::anInvalidCellHoldsTheCommandsBack() {
     QVERIFY(bench.showsItsData());
 }
 
-void tst_grid_records::headClickSorts() {
-    ChannelBench bench(3);
-    bench.write(kRxFreq, QStringLiteral("150"), 1);
-    bench.events.enabler->Ienabler_RefreshGridByUIID(kRxFreq);
-    const QHeaderView &heads = *bench.table().horizontalHeader();
-    WindowInput::clickAt(*heads.viewport(), {heads.sectionViewportPosition(kRx) + 10, heads.height() / 2});
-    QCOMPARE(bench.frequencies(), channels({2, 3, 10}));
-    QVERIFY(bench.showsItsData());
-}
-
 void tst_grid_records::fillDownCopiesTheFirstValue() {
     ChannelBench bench(5, kFrench);
     bench.table().MoveTo({1, kRx});
@@ -201,17 +175,6 @@ void tst_grid_records::aCellIsDraggedOntoAnother() {
     dropOn({0, kPower}, QStringLiteral("Low"));
     QVERIFY(bench.stored(QStringLiteral("TxPower_q7r"), 1) != bench.stored(QStringLiteral("TxPower_q7r"), 2));
     QVERIFY(bench.showsItsData());
-}
-
-void tst_grid_records::copiedRowsHaveTheirHeads() {
-    ChannelBench bench(3);
-    bench.select(1, 2);
-    bench.grid.Ifield_Copy();
-    const QStringList copied = bench.services.clipboard.Text().split(QStringLiteral("\r\n"));
-    QCOMPARE(copied.size(), 4);
-    QVERIFY(copied.at(0).startsWith(QStringLiteral("ID\tRx Frequency\tTx Frequency\t")));
-    QCOMPARE(copied.at(2).split(u'\t').at(kRx), megahertz(3));
-    QCOMPARE(copied.at(3), QString());
 }
 
 void tst_grid_records::tabRunsThroughTheCells() {
