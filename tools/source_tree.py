@@ -29,7 +29,7 @@ LAYERS = {
     "src/forms/layout": ["src/forms/definitions", "src/common"],
     "src/forms": ["src/forms/layout", "src/records", "src/binding"],
     "src/printing": ["src/common"],
-    "src/mapping": ["src/common"],
+    "src/mapping": ["src/common", "src/binding"],
     "src/shell": ["src/forms", "src/printing", "src/mapping", "src/common/ports"],
     "src/app": ["src/shell"],
     "src/ctl": ["src/transformer/component", "src/forms/definitions"],
