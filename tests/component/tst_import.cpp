@@ -3,6 +3,7 @@
 #include "value_text.h"
 
 #include <QFile>
+#include <QMimeData>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -20,6 +21,7 @@ class tst_import : public QObject {
     void exchangedIdentitiesTakeTheirReferencesAlong();
     void whatASettingDecidesAboutWaitsForIt();
     void lockedCellsArePassedOver();
+    void droppedRowsBecomeNewRecords();
     void fixedRowsTakeNoMore();
     void oneRevertTakesItAllBack();
 
@@ -201,6 +203,13 @@ void tst_import::lockedCellsArePassedOver() {
     QCOMPARE(channels().join(u','), QStringLiteral("1 160 1"));
     QVERIFY(paste(QStringLiteral("Pin\tLabel\nundefined\tHorn\n"), QStringLiteral("4"), "DigitalIOPin|DigitalIOLabel"));
     QCOMPARE(get("DigitalIOLabel", 4), QString()); // the pin is unused
+}
+
+void tst_import::droppedRowsBecomeNewRecords() {
+    QMimeData data;
+    data.setText(QStringLiteral("9\t150\tLow\r\n"));
+    QVERIFY(mComponent->ImportRecordByDrop(QString(), QString::fromLatin1(kColumns), &data, nullptr, true));
+    QCOMPARE(channels().join(u','), QStringLiteral("1 160 3,9 150 1"));
 }
 
 void tst_import::fixedRowsTakeNoMore() {

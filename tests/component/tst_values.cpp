@@ -40,6 +40,7 @@ class tst_values : public QObject {
     void lowerAccessLevelLocksFields();
     void fixedItemsAreOfferedBeforeAnyRecord();
     void editTellsWhichFormsItMakesAvailable();
+    void finalCheckRefusesErrorsAndAsksAboutWarnings();
 
   private:
     bool set(const QString &uiid, const QVariant &value, qint32 record = 1) {
@@ -440,6 +441,28 @@ void tst_values::editTellsWhichFormsItMakesAvailable() {
     QCOMPARE(told(), QString());
     mComponent->RevertFormData(mComponent->GetCurrentTier());
     QCOMPARE(told(), QStringLiteral("EnableDisableFormItem Features 0|EnableDisableFormItem Alerts 0"));
+}
+
+void tst_values::finalCheckRefusesErrorsAndAsksAboutWarnings() {
+    QVERIFY(mComponent->FinalValidate());
+    QVERIFY(mListener->messages.isEmpty());
+    QVERIFY(set(QStringLiteral("ChannelBandwidth_q7r"), 250));
+    QVERIFY(!mComponent->FinalValidate());
+    const QString error =
+        QStringLiteral("\nChannels, record 1, Bandwidth: Bandwidth must be 12.5 kHz while RF Compliance is set.");
+    QVERIFY2(mListener->messages.takeLast().endsWith(error), "form, record and field are named");
+    bool ok = true;
+    mComponent->ValidateForm(QStringLiteral("usrctlChannelsKX4600"), QString(), true, ok);
+    QVERIFY(!ok);
+    mComponent->ValidateForm(QStringLiteral("usrctlEconomyKX4600"), QString(), true, ok);
+    QVERIFY(ok);
+    QVERIFY(set(QStringLiteral("ChannelBandwidth_q7r"), 125));
+    QVERIFY(set(QStringLiteral("VSWRFoldbackOverride"), 1));
+    for (const qint32 answer : {7, 6}) {
+        mListener->answer = answer;
+        QCOMPARE(mComponent->FinalValidate(), answer == 6);
+    }
+    QVERIFY(mListener->messages.last().contains(QStringLiteral("not protected against a bad antenna")));
 }
 
 QTEST_GUILESS_MAIN(tst_values)

@@ -1,11 +1,11 @@
 #include "cls_control_item.h"
 #include "field_event.h"
 #include "frm_mapping_gen.h"
+#include "help_bench.h"
 #include "ifield.h"
 #include "mapping_shell.h"
 #include "message_style.h"
 #include "process_values.h"
-#include "program_bench.h"
 #include "transformer.h"
 #include "value_text.h"
 #include "window_input.h"
@@ -44,7 +44,7 @@ class MappingWindowTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void initTestCase() { mBench = std::make_unique<ProgramBench>(); }
+    void initTestCase() { mBench = std::make_unique<HelpBench>(); }
     void cleanupTestCase() { mBench.reset(); }
     void init();
     void hiddenEntryOpensByKey();
@@ -59,7 +59,7 @@ class MappingWindowTest : public QObject {
     [[nodiscard]] QPlainTextEdit &box(const char *name) const {
         return *mWindow->findChild<QPlainTextEdit *>(QString::fromLatin1(name));
     }
-    std::unique_ptr<ProgramBench> mBench;
+    std::unique_ptr<HelpBench> mBench;
     std::unique_ptr<PreparedShell> mShell;
     std::unique_ptr<frmMappingGen> mWindow;
     QTemporaryDir mFolder;
@@ -80,7 +80,7 @@ void MappingWindowTest::hiddenEntryOpensByKey() {
     WindowInput::key(Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
     auto *opened = mBench->window().findChild<frmMappingGen *>();
     QVERIFY(opened != nullptr && opened->isVisible());
-    ProgramBench::picture(*opened, QStringLiteral("mapping"));
+    HelpBench::picture(*opened, QStringLiteral("mapping"));
     opened->close();
 }
 
@@ -173,7 +173,9 @@ void MappingWindowTest::hookPointsRecordAndRevert() {
     bool ok = false;
     for (const char *value : {"30", "30", "40"}) {
         mBench->component().SetValue(QStringLiteral("EconomyTimer"), QString::fromLatin1(value), 0, true, ok);
-        qDebug() << ok << timer->Ifield_GetUIID() << timer->Ifield_GetTypeName() << timer->Ifield_GetRecordNr() << timer->Ifield_GetValue() << mBench->component().GetValue(timer->Ifield_GetUIID(), timer->Ifield_GetRecordNr());
+        qDebug() << ok << timer->Ifield_GetUIID() << timer->Ifield_GetTypeName() << timer->Ifield_GetRecordNr()
+                 << timer->Ifield_GetValue()
+                 << mBench->component().GetValue(timer->Ifield_GetUIID(), timer->Ifield_GetRecordNr());
         mWindow->MarkOriginalValue(item, validate);
         mWindow->FieldEvent(item, validate);
     }
