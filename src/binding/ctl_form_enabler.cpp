@@ -9,10 +9,7 @@ ctlFormEnabler::ctlFormEnabler(const HostControls &controls, const FieldServices
       mValidation(mItems, services), mEdits(mItems, services, mState), mFocusEvents(mItems, services, mState, mFields),
       mReverts(mItems, services, mState), mMoves(mItems, services, mFields, mValidation),
       mNavigatorRecords(mItems, services, mFields), mGridRecords(mItems, services, mFields, mNavigatorRecords),
-      mQueries(mItems, services), mUpdates(mItems, services, mFields) {}
+      mQueries(mItems, services), mUpdates(mItems, services, mFields), mReport(mItems, services) {}
 
 // For a form that is destroyed without having been closed: a field may outlive the host that its item refers to.
 ctlFormEnabler::~ctlFormEnabler() { mItems.UserControl_Terminate(); }
-
-// The form's report comes with printing; until then there is nothing to print.
-void ctlFormEnabler::Ienabler_PrintForm() {}

@@ -9,6 +9,7 @@
 #include "form_focus.h"
 #include "form_initialisation.h"
 #include "form_items.h"
+#include "form_report.h"
 #include "form_validation.h"
 #include "frame_contents.h"
 #include "grid_queries.h"
@@ -137,7 +138,9 @@ class ctlFormEnabler final : public Ienabler, public std::enable_shared_from_thi
     std::shared_ptr<clsControlItem> Ienabler_GetActiveControl() override { return mItems.Ienabler_GetActiveControl(); }
     qint32 Ienabler_HelpContextID() override { return HelpID; }
     void Ienabler_InitialiseFields(qint32 lngRecordNr) override { mForm.Ienabler_InitialiseFields(lngRecordNr); }
-    void Ienabler_PrintForm() override;
+    bool Ienabler_PrintForm(Iusrfrm &form, const QString &title, ReportLines &printDialog, bool printAll) override {
+        return mReport.Ienabler_PrintForm(form, title, printDialog, printAll);
+    }
     qint32 Ienabler_TextAlignment() override { return mServices.shell.TextAlignment(); }
     void Ienabler_UIIDNotFound(const QString &UIID) override { mUpdates.Ienabler_UIIDNotFound(UIID); }
     void Ienabler_UpdateUIFieldByUIID(const QString &UIID, qint32 RecordNr, const QVariant &Value) override {
@@ -164,4 +167,5 @@ class ctlFormEnabler final : public Ienabler, public std::enable_shared_from_thi
     GridRecords mGridRecords;
     GridQueries mQueries;
     ComponentUpdates mUpdates;
+    FormReport mReport;
 };

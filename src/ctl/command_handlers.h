@@ -19,6 +19,9 @@ int add(ToolSession &session);
 int insert(ToolSession &session);
 int repeat(ToolSession &session);
 int remove(ToolSession &session);
+// Tables of records
+int exportRecords(ToolSession &session);
+int importRecords(ToolSession &session);
 // What the program knows
 int fields(ToolSession &session);
 int forms(ToolSession &session);

@@ -14,11 +14,14 @@ constexpr std::array kCommands = {
     Command{"check", "FILE", "", "", 1, 1, Commands::check},
     Command{"get", "FILE [--tier KEY] [--raw] ADDRESS ...", "--tier", "--raw", 2, kMany, Commands::get},
     Command{"set", "FILE [--tier KEY] [-o OUT] ADDRESS=VALUE ...", "--tier -o", "", 2, kMany, Commands::set},
-    Command{"add", "FILE [--tier KEY] [-o OUT] GUIDE", "--tier -o", "", 2, 2, Commands::add},
+    Command{"add", "FILE [--tier KEY] [-o OUT] GUIDE(N)", "--tier -o", "", 2, 2, Commands::add},
     Command{"insert", "FILE [--tier KEY] [-o OUT] GUIDE(N)", "--tier -o", "", 2, 2, Commands::insert},
     Command{"repeat", "FILE [--tier KEY] [-o OUT] GUIDE(N)", "--tier -o", "", 2, 2, Commands::repeat},
     Command{"delete", "FILE [--tier KEY] [-o OUT] GUIDE(N)", "--tier -o", "", 2, 2, Commands::remove},
     Command{"diff", "A B", "", "", 2, 2, Commands::diff},
+    Command{"export", "FILE [--tier KEY] --record GUIDE", "--tier --record", "", 1, 1, Commands::exportRecords},
+    Command{"import", "FILE [--tier KEY] [-o OUT] --record GUIDE [--partial] CSV", "--tier --record -o", "--partial", 2,
+            2, Commands::importRecords},
     Command{"squirt", "FILE -o FILE.sqt", "--tier -o", "", 1, 1, Commands::squirt},
     Command{"restore-points", "[SERIAL]", "", "", 0, 1, Commands::restorePoints},
     Command{"fields", "", "", "", 0, 0, Commands::fields},
@@ -26,7 +29,7 @@ constexpr std::array kCommands = {
     Command{"ports", "", "", "", 0, 0, Commands::ports},
     Command{"interrogate", "--port DEVICE", "--port", "", 0, 0, Commands::interrogate},
     Command{"read", "--port DEVICE -o FILE", "--port -o", "", 0, 0, Commands::read},
-    Command{"program", "--port DEVICE [--tier KEY] FILE", "--port --tier", "", 1, 1, Commands::program},
+    Command{"program", "--port DEVICE [--tier KEY] FILE|FILE.sqt", "--port --tier", "", 1, 1, Commands::program},
 };
 } // namespace
 

@@ -11,6 +11,8 @@ void writeTo(std::FILE *stream, const QByteArray &bytes) {
 
 void Console::line(const QString &text) const { writeTo(stdout, text.toUtf8() + '\n'); }
 
+void Console::text(const QByteArray &utf8) const { writeTo(stdout, utf8); }
+
 void Console::json(const QJsonDocument &document) const { writeTo(stdout, document.toJson(QJsonDocument::Indented)); }
 
 void Console::message(const QString &text) const { writeTo(stderr, text.toUtf8() + '\n'); }

@@ -18,6 +18,7 @@ inline constexpr int kFile = 3;    // file or link
 class Console {
   public:
     void line(const QString &text) const;
+    void text(const QByteArray &utf8) const; // as it stands
     void json(const QJsonDocument &document) const;
     void message(const QString &text) const;
     // A line that is written over by the next one on a terminal; elsewhere a plain line. An empty text ends it.

@@ -1,32 +1,12 @@
 #include "command_handlers.h"
 
-#include "item_lists.h"
+#include "field_reader.h"
+#include "field_setter.h"
 #include "tool_session.h"
-#include "value_validator.h"
+#include "value_codec.h"
 
 #include <QJsonArray>
 #include <QJsonObject>
-
-namespace {
-// The value in the form that crosses the component's boundary; ends the command with a message for one that is refused.
-QVariant boundaryValue(ToolSession &session, const FieldTarget &target, const Assignment &assignment) {
-    const ValueValidator validator(session.state().current());
-    const FieldIndex field = target.field->index;
-    const ValueResult result = assignment.stored ? validator.fromRaw(field, target.record, assignment.value)
-                                                 : validator.fromShown(field, target.record, assignment.value);
-    if (const auto *fault = std::get_if<ValueFault>(&result))
-        session.fail(ExitCode::kRefused,
-                     target.address + QStringLiteral(": ") + RefusalText::ofValue(*target.field, *fault).text());
-    const StoredValue &value = std::get<StoredValue>(result);
-    if (target.field->kind != FieldKind::Reference)
-        return ValueCodec::boundary(*target.field, value);
-    for (const FieldItem &item : ItemLists(session.state().current()).items(field, target.record)) {
-        if (item.value == value.number())
-            return item.text;
-    }
-    return assignment.value;
-}
-} // namespace
 
 int Commands::get(ToolSession &session) {
     const Arguments &arguments = session.arguments();
@@ -58,14 +38,13 @@ int Commands::set(ToolSession &session) {
     for (const QString &word : words.sliced(1))
         assignments.append(Assignment::parse(word));
     session.open(words.first());
+    FieldSetter setter(session);
     for (const Assignment &assignment : assignments) {
         const FieldTarget target = session.target(assignment.address);
-        session.selectParent(target.field->structure, target.record);
-        const QVariant value = boundaryValue(session, target, assignment);
-        bool ok = false;
-        session.transformer().SetValue(target.field->id, value, target.record.number, true, ok);
-        if (!ok)
-            return ExitCode::kRefused;
+        const ValueForm form = assignment.stored ? ValueForm::Stored : ValueForm::Shown;
+        const QString refusal = setter.set(*target.field, target.record, assignment.value, form).refusal;
+        if (!refusal.isEmpty())
+            session.fail(ExitCode::kRefused, target.address + QStringLiteral(": ") + refusal);
     }
     session.save(words.first());
     return ExitCode::kDone;

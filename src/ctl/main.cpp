@@ -15,12 +15,17 @@ int runCommand(Console &console, const QStringList &words) {
     const Command *command = CommandTable::find(words.first());
     if (command == nullptr)
         return usageError(console, QStringLiteral("unknown command %1\n%2").arg(words.first(), CommandTable::usage()));
+    const QString usage = QStringLiteral("usage: kx4600ctl %1 %2")
+                              .arg(QLatin1StringView(command->name), QLatin1StringView(command->usage));
+    if (words.contains(QStringLiteral("--help"))) {
+        console.line(usage);
+        return ExitCode::kDone;
+    }
     try {
         const Arguments arguments(words.sliced(1), command->valuedOptions(), command->flagOptions());
         const qsizetype count = arguments.rest().size();
         if (count < command->least || count > command->most)
-            throw UsageError(QStringLiteral("usage: kx4600ctl %1 %2")
-                                 .arg(QLatin1StringView(command->name), QLatin1StringView(command->usage)));
+            throw UsageError(usage);
         ToolSession session(console, arguments);
         return command->run(session);
     } catch (const UsageError &error) {

@@ -73,7 +73,7 @@ int Commands::read(ToolSession &session) {
 
 int Commands::program(ToolSession &session) {
     choosePort(session);
-    session.open(session.arguments().rest().first());
+    session.openForRadio(session.arguments().rest().first());
     const InterruptWatch watch([&session] { session.transformer().AbortComms(); });
     session.transformer().ProgramRadio();
     if (!session.transformer().radio().lastReport())

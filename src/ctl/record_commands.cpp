@@ -5,31 +5,43 @@
 #include <functional>
 
 namespace {
-// Opens the file, makes the parent of GUIDE(N) the current one, runs the operation on the number that counts below it,
-// and saves.
-int change(ToolSession &session, bool needsNumber,
-           const std::function<void(const QString &guide, qint32 number, bool &ok)> &operation) {
-    const QStringList words = session.arguments().rest();
-    const Address address = Address::parse(words[1]);
+using RecordChange = std::function<void(const QString &guide, qint32 number, bool &ok)>;
+
+Address guideAddress(const ToolSession &session) {
+    Address address = Address::parse(session.arguments().rest()[1]);
+    if (address.parent > 0 && !session.structure(address.uiid).parent.isValid())
+        throw UsageError(QStringLiteral("%1 has no parent record: write %1(N)").arg(address.uiid));
+    return address;
+}
+
+// Opens the file, makes the record's parent the current one, runs the operation on the number that counts below it, and
+// saves.
+int change(ToolSession &session, const Address &address, const RecordChange &operation) {
     const RecordStructure &structure = session.structure(address.uiid);
-    if (needsNumber && address.record == 0)
-        throw UsageError(QStringLiteral("write the record's number: %1(N)").arg(address.uiid));
-    session.open(words.first());
-    RecordAddress record{address.parent, address.record};
-    if (structure.isScoped() && address.parent == 0)
-        record = session.state().current().recordByTotal(structure.index, qMax(1, address.record));
+    const QString file = session.arguments().rest().first();
+    session.open(file);
+    const RecordAddress record = session.recordOf(structure, address);
     session.selectParent(structure.index, record);
     bool ok = false;
     operation(structure.guide, record.number, ok);
     if (!ok)
         return ExitCode::kRefused;
-    session.save(words.first());
+    session.save(file);
     return ExitCode::kDone;
+}
+
+int changeRecord(ToolSession &session, const RecordChange &operation) {
+    const Address address = guideAddress(session);
+    if (address.record == 0)
+        throw UsageError(QStringLiteral("write the record's number: %1(N)").arg(address.uiid));
+    return change(session, address, operation);
 }
 } // namespace
 
 int Commands::add(ToolSession &session) {
-    return change(session, false, [&session](const QString &guide, qint32 /*number*/, bool &ok) {
+    Address address = guideAddress(session);
+    address.record = qMax(1, address.record);
+    return change(session, address, [&session](const QString &guide, qint32 /*number*/, bool &ok) {
         qint32 added = 0;
         session.transformer().AddRecord(guide, QString(), added, ok);
         if (ok)
@@ -38,19 +50,19 @@ int Commands::add(ToolSession &session) {
 }
 
 int Commands::insert(ToolSession &session) {
-    return change(session, true, [&session](const QString &guide, qint32 number, bool &ok) {
+    return changeRecord(session, [&session](const QString &guide, qint32 number, bool &ok) {
         session.transformer().InsertRecord(guide, number, QString(), ok);
     });
 }
 
 int Commands::repeat(ToolSession &session) {
-    return change(session, true, [&session](const QString &guide, qint32 number, bool &ok) {
+    return changeRecord(session, [&session](const QString &guide, qint32 number, bool &ok) {
         session.transformer().RepeatRecord(guide, number, QString(), ok);
     });
 }
 
 int Commands::remove(ToolSession &session) {
-    return change(session, true, [&session](const QString &guide, qint32 number, bool &ok) {
+    return changeRecord(session, [&session](const QString &guide, qint32 number, bool &ok) {
         session.transformer().DeleteRecord(guide, number, ok);
     });
 }

@@ -12,7 +12,11 @@ qint32 ToolEvents::answer(qint32 buttons) const {
 
 void ToolEvents::TransformerEvents_MsgBox(const QString &Prompt, qint32 Buttons, const QString & /*Title*/,
                                           qint32 &Answer, const QString &strParameters) {
-    mConsole.message(Translation::Fill(Prompt, strParameters.split(u'|')));
+    const QString text = Translation::Fill(Prompt, strParameters.split(u'|'));
+    if (mDiverted != nullptr)
+        mDiverted->append(text);
+    else
+        mConsole.message(text);
     Answer = answer(Buttons);
     if (Answer == MessageAnswer::kNo)
         mConsole.message(QStringLiteral("(answered No; --yes answers Yes)"));

@@ -52,6 +52,9 @@ class ToolEvents final : public TransformerEvents, public ProgressEvents {
                                             const QString & /*Unit*/) override {}
     void TransformerEvents_UIIDNotFound(const QString & /*UIID*/) override {}
 
+    // While diverted, messages are collected here instead of going to standard error (see MessageDiversion). Null ends
+    // it.
+    void divertMessages(QStringList *to) { mDiverted = to; }
     // Label and value of what an identified radio said about itself.
     [[nodiscard]] const QList<std::pair<QString, QString>> &radioInfo() const { return mRadioInfo; }
 
@@ -60,6 +63,22 @@ class ToolEvents final : public TransformerEvents, public ProgressEvents {
 
     Console &mConsole;
     bool mYesToAll;
+    QStringList *mDiverted = nullptr;
     QString mLastProgress;
     QList<std::pair<QString, QString>> mRadioInfo;
+};
+
+// While it lives, the component's messages are kept instead of being written.
+class MessageDiversion {
+  public:
+    explicit MessageDiversion(ToolEvents &events) : mEvents(events) { mEvents.divertMessages(&mMessages); }
+    ~MessageDiversion() { mEvents.divertMessages(nullptr); }
+    MessageDiversion(const MessageDiversion &) = delete;
+    MessageDiversion &operator=(const MessageDiversion &) = delete;
+
+    [[nodiscard]] QString text() const { return mMessages.join(u' '); }
+
+  private:
+    ToolEvents &mEvents;
+    QStringList mMessages;
 };

@@ -1,12 +1,18 @@
 #include "tool_session.h"
 
+#include "file_kind.h"
 #include "product_identity.h"
+#include "squirt_file.h"
+#include "whole_file.h"
 
 #include <QFileInfo>
 
+#include <limits>
+
 namespace {
 constexpr qint32 kAccessHigh = 80;
-}
+constexpr qint32 kNoRecord = std::numeric_limits<qint32>::max();
+} // namespace
 
 ToolSession::ToolSession(Console &console, const Arguments &arguments)
     : mConsole(console), mArguments(arguments),
@@ -31,6 +37,21 @@ void ToolSession::open(const QString &fileName) {
         throw CommandFailed{ExitCode::kFile};
     mFileTier = state().tier();
     selectTier();
+}
+
+void ToolSession::openForRadio(const QString &fileName) {
+    const QByteArray content = WholeFile::read(fileName);
+    if (FileKinds::of(content) != FileKind::Squirt) {
+        open(fileName);
+        return;
+    }
+    TierData data = SquirtFile::read(dictionary(), fileName, content);
+    const TierIndex tier = data.tier();
+    if (mArguments.has(QStringLiteral("--tier")) &&
+        mArguments.value(QStringLiteral("--tier")) != dictionary().tier(tier).key)
+        throw UsageError(QStringLiteral("the squirt file holds the tier %1").arg(dictionary().tier(tier).key));
+    state().document.data.replace(std::move(data));
+    state().document.data.setCurrentTier(tier);
 }
 
 void ToolSession::selectTier() {
@@ -64,22 +85,29 @@ FieldTarget ToolSession::target(const Address &address) {
     if (field == nullptr)
         throw UsageError(QStringLiteral("unknown UIID %1").arg(address.uiid));
     const RecordStructure &owner = dictionary().structure(field->structure);
-    FieldTarget result{.field = field, .record = {address.parent, address.record}, .address = address.uiid};
-    if (owner.isRadio()) {
-        result.record = {};
+    FieldTarget result{.field = field, .record = {}, .address = address.uiid};
+    if (owner.isRadio())
         return result;
-    }
     if (address.record == 0)
         throw UsageError(QStringLiteral("%1 is a field of each %2: write %1(N)").arg(address.uiid, owner.label));
-    if (address.parent > 0 && !owner.isScoped())
+    if (address.parent > 0 && !owner.parent.isValid())
         throw UsageError(QStringLiteral("%1 has no parent record: write %1(N)").arg(address.uiid));
     result.address += address.parent > 0 ? QStringLiteral("(%1.%2)").arg(address.parent).arg(address.record)
                                          : QStringLiteral("(%1)").arg(address.record);
-    if (owner.isScoped() && address.parent == 0)
-        result.record = state().current().recordByTotal(owner.index, address.record);
+    result.record = recordOf(owner, address);
     if (!state().current().exists(owner.index, result.record))
         fail(ExitCode::kRefused, QStringLiteral("%1: there is no such record").arg(result.address));
     return result;
+}
+
+RecordAddress ToolSession::recordOf(const RecordStructure &owner, const Address &address) {
+    if (owner.isFlat() && address.parent > 0) {
+        const bool isBelow = address.record <= owner.perParent;
+        return {0, isBelow ? (address.parent - 1) * owner.perParent + address.record : kNoRecord};
+    }
+    if (owner.isScoped() && address.parent == 0)
+        return state().current().recordByTotal(owner.index, address.record);
+    return {address.parent, address.record};
 }
 
 void ToolSession::selectParent(StructureIndex structure, RecordAddress record) {

@@ -31,12 +31,14 @@ class ToolSession {
     [[nodiscard]] ComponentState &state() { return mTransformer->state(); }
     [[nodiscard]] const Dictionary &dictionary() const { return mTransformer->dictionary(); }
     [[nodiscard]] Console &console() { return mConsole; }
-    [[nodiscard]] const ToolEvents &events() const { return *mEvents; }
+    [[nodiscard]] ToolEvents &events() { return *mEvents; }
     [[nodiscard]] const Arguments &arguments() const { return mArguments; }
     [[nodiscard]] bool wantsJson() const { return mArguments.has(QStringLiteral("--json")); }
 
     // Opens the data file and selects the tier of --tier. A file that cannot be opened ends the command with 3.
     void open(const QString &fileName);
+    // As open; takes squirt files too.
+    void openForRadio(const QString &fileName);
     void selectTier();
     // To the file of -o, else to the given one.
     void save(const QString &fileName);
@@ -46,6 +48,8 @@ class ToolSession {
     // Raises UsageError for an unknown UIID or a missing record number, ends the command with 1 for a record that does
     // not exist.
     [[nodiscard]] FieldTarget target(const Address &address);
+    // What UIID(N) or UIID(P.N) means in the structure; N alone counts over all parents. It need not exist.
+    [[nodiscard]] RecordAddress recordOf(const RecordStructure &owner, const Address &address);
     // The structure of a guide. Raises UsageError.
     [[nodiscard]] const RecordStructure &structure(const QString &guide) const;
     // Makes the record's parent the current one, so that record numbers of the component count below it.

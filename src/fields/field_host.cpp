@@ -1,7 +1,9 @@
 #include "field_host.h"
 
 #include "hosted_control.h"
+#include "plain_caption.h"
 
+#include <QGroupBox>
 #include <QTabWidget>
 #include <QWidget>
 
@@ -35,6 +37,11 @@ void FieldHost::SetGeometry(const TwipRect &geometry) {
 }
 
 Ifield *FieldHost::object() const { return control() == nullptr ? nullptr : control()->AsField(); }
+
+QString FieldHost::Caption() const {
+    const auto *const frame = qobject_cast<const QGroupBox *>(mWidget.data());
+    return frame == nullptr ? QString() : plainCaption(frame->title());
+}
 
 qint32 FieldHost::Left() const { return (standsOnHiddenPage() ? mGeometry.left - kParkedBy : mGeometry.left).count; }
 

@@ -35,6 +35,7 @@ class FieldHost : public HostControl {
     [[nodiscard]] QString Name() const override { return mPlace.name; }
     [[nodiscard]] QString TypeName() const override { return mPlace.typeName; }
     [[nodiscard]] Ifield *object() const override;
+    [[nodiscard]] QString Caption() const override;
     [[nodiscard]] HostControl *Container() const override { return mPlace.container; }
     [[nodiscard]] qint32 TabIndex() const override { return mPlace.tabIndex; }
     [[nodiscard]] qint32 Left() const override;

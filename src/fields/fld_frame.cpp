@@ -1,6 +1,7 @@
 #include "fld_frame.h"
 
 #include "common_error_handler.h"
+#include "field_accessibility.h"
 #include "field_label.h"
 #include "field_properties.h"
 #include "frame_border.h"
@@ -17,6 +18,7 @@ constexpr Twips kMargin{100};
 fldFrame::fldFrame(const FieldServices &services, const FieldProperties &properties, QWidget *parent)
     : FieldControl(services, parent), mFrame1(new FrameBorder(this)), mLabel1(new FieldLabel(this)),
       mDrag(*this, services, Qt::LeftButton | Qt::RightButton), mSize(kDefinitionSize) {
+    FieldAccessibility::install();
     mFrame1->setObjectName(QStringLiteral("Frame1"));
     mLabel1->setObjectName(QStringLiteral("Label1"));
     mDrag.addSource(*mFrame1);

@@ -17,7 +17,6 @@ FrameBorder::FrameBorder(QWidget *parent) : QWidget(parent) {}
 
 void FrameBorder::setCaption(const QString &caption) {
     mCaption = caption;
-    setAccessibleName(plainCaption(caption));
     update();
 }
 

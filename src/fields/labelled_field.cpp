@@ -15,10 +15,10 @@ LabelledField::LabelledField(const FieldServices &services, QWidget *parent, con
     mDrag.addTarget(*mLabel);
 }
 
-void LabelledField::readLabel(PropertyReader &reader, const QString &defaultCaption) {
+void LabelledField::readLabel(PropertyReader &reader, const QString &defaultCaption, double defaultFactor) {
     const QString caption = reader.text(QStringLiteral("Caption"), defaultCaption);
     readIdentity(reader);
-    mLabelWidthFactor = std::clamp(reader.real(QStringLiteral("LabelWidthFactor"), 0.6), 0.0, 1.0);
+    mLabelWidthFactor = std::clamp(reader.real(QStringLiteral("LabelWidthFactor"), defaultFactor), 0.0, 1.0);
     mLabel->setText(caption);
 }
 

@@ -23,7 +23,7 @@ class LabelledField : public EditableField, protected DragParty {
     LabelledField(const FieldServices &services, QWidget *parent, const TwipSize &definitionSize);
 
     // "Caption", "ID", "NavigatorStream", "LabelWidthFactor" (0 to 1; what lies outside becomes the nearer end).
-    void readLabel(PropertyReader &reader, const QString &defaultCaption);
+    void readLabel(PropertyReader &reader, const QString &defaultCaption, double defaultFactor = 0.6);
     // Called once by the concrete class: makes editor the caption's buddy and a target of drags.
     void addEditor(QWidget &editor, QWidget &dropSurface);
     void layOut();

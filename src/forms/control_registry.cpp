@@ -7,7 +7,9 @@
 #include "fld_grid_field.h"
 #include "fld_id_tracker_field.h"
 #include "fld_page_navigator.h"
+#include "fld_slider_field.h"
 #include "fld_text_field.h"
+#include "fld_trigger.h"
 #include "run_time_error.h"
 #include "translation.h"
 #include "window_services.h"
@@ -36,6 +38,8 @@ ControlRegistry::ControlRegistry() {
     Add(QStringLiteral("fldIdTrackerField"), &make<fldIdTrackerField>);
     Add(QStringLiteral("fldGridField"), &make<fldGridField>);
     Add(QStringLiteral("fldPageNavigator"), &make<fldPageNavigator>);
+    Add(QStringLiteral("fldSliderField"), &make<fldSliderField>);
+    Add(QStringLiteral("fldTrigger"), &make<fldTrigger>);
     Add(QStringLiteral("fldFrame"), &make<fldFrame>);
     Add(QStringLiteral("Frame"), &makePlainFrame);
 }

@@ -17,7 +17,7 @@ class ControlRegistry {
     using Maker =
         std::function<QWidget *(const FieldServices &services, const FieldProperties &properties, QWidget *parent)>;
 
-    // Enters the fields, navigators, frames and plain frames.
+    // Enters the fields, grids, navigators, triggers, frames and plain frames; no call-ups.
     ControlRegistry();
 
     // A class that is there already gets the new maker.

@@ -38,6 +38,7 @@ void DataForm::Build(const ControlRegistry &registry) {
     mControls.Build(mDefinition, mServices, registry, *this);
     layOut();
     mEnabler->AccessControls();
+    mCallUps.emplace(mControls.Hosts());
     if (mControls.TabWidget() != nullptr)
         connect(mControls.TabWidget(), &QTabWidget::currentChanged, this, &DataForm::showPage);
 }

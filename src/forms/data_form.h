@@ -1,5 +1,6 @@
 #pragma once
 
+#include "call_up_records.h"
 #include "cls_ctl_fact.h"
 #include "cls_tab_manager.h"
 #include "form_controls.h"
@@ -9,6 +10,7 @@
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 #include <vector>
 
 class ControlRegistry;
@@ -59,6 +61,7 @@ class DataForm final : public QWidget, public Iusrfrm {
     FormControls mControls;
     std::shared_ptr<ctlFormEnabler> mEnabler;
     clsTabManager mTabManager;
+    std::optional<CallUpRecords> mCallUps;
     std::vector<clsCtlFact> mFacts; // one for each control, in their order
     bool mTerminated = false;
 };

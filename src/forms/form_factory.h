@@ -2,14 +2,19 @@
 
 #include "control_registry.h"
 #include "form_catalogue.h"
+#include "sub_forms.h"
 
 class DataForm;
 class QWidget;
 
-// Makes forms by their names, which are compared without regard to case.
+// Makes forms by their names, which are compared without regard to case: those of the catalogue, and the calibration
+// form "usrctlCalSpecifications", which has an enabler and no fields.
 class FormFactory {
   public:
-    // Further control classes may be entered here; those of the fields and frames are there.
+    FormFactory();
+    Q_DISABLE_COPY_MOVE(FormFactory)
+
+    // Further control classes may be entered here; those of the fields, frames and buttons are there.
     [[nodiscard]] ControlRegistry &Registry() { return mRegistry; }
 
     // There is such a form, and each of its controls can be made.
@@ -19,6 +24,12 @@ class FormFactory {
     [[nodiscard]] DataForm *CreateForm(const QString &name, const FieldServices &services, QWidget *parent);
 
   private:
+    // The catalogue's, or the calibration form.
+    [[nodiscard]] bool isKnown(const QString &name) const;
+    [[nodiscard]] const FormDefinition &definitionOf(const QString &name);
+
     FormCatalogue mCatalogue;
+    FormDefinition mCalibration;
     ControlRegistry mRegistry;
+    SubForms mSubForms{*this};
 };

@@ -5,6 +5,10 @@
 #include "plain_caption.h"
 #include "transformer.h"
 #include "translation.h"
+#include "value_text.h"
+#include "xarray_db.h"
+
+#include <algorithm>
 
 namespace {
 QFont bold(QFont font) {
@@ -40,3 +44,20 @@ Twips FormTexts::titleWidth(const QString &text) const {
 }
 
 Twips FormTexts::lineHeight() const { return mScale.ofMeasure({mMetrics.height()}); }
+
+Twips FormTexts::widestItem(const ControlDefinition &combo) const {
+    const auto known = mWidestItems.constFind(&combo);
+    return known != mWidestItems.constEnd() ? *known : *mWidestItems.insert(&combo, measuredItems(combo));
+}
+
+Twips FormTexts::measuredItems(const ControlDefinition &combo) const {
+    XArrayDB items;
+    qint32 scope = 0;
+    const bool isCombo = combo.typeName == u"fldComboField";
+    if (mComponent == nullptr || !isCombo || !mComponent->GetComboItems(combo.id(), 0, items, scope))
+        return {};
+    Twips widest;
+    for (qint32 row = 0; row <= items.UpperBound(1); ++row)
+        widest = std::max(widest, width(mTranslation.NLSStr(ValueText::of(items.Value(row, 0)))));
+    return widest;
+}

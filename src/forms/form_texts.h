@@ -19,9 +19,11 @@ class FormTexts final : public LayoutText {
     [[nodiscard]] Twips width(const QString &text) const override;
     [[nodiscard]] Twips titleWidth(const QString &text) const override;
     [[nodiscard]] Twips lineHeight() const override;
+    [[nodiscard]] Twips widestItem(const ControlDefinition &combo) const override;
 
   private:
     [[nodiscard]] QString shownCaption(const ControlDefinition &control) const;
+    [[nodiscard]] Twips measuredItems(const ControlDefinition &combo) const;
 
     Transformer *mComponent;
     const Translation &mTranslation;
@@ -30,4 +32,5 @@ class FormTexts final : public LayoutText {
     TwipScale mScale;
     mutable QHash<const ControlDefinition *, QString> mCaptions;
     mutable QHash<QString, Twips> mWidths;
+    mutable QHash<const ControlDefinition *, Twips> mWidestItems;
 };

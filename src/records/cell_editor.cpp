@@ -36,9 +36,11 @@ void CellEditor::open(const QString &text, const QString &accessibleName) {
     mBox->setFocus(Qt::OtherFocusReason);
 }
 
-void CellEditor::close() {
+void CellEditor::close(QWidget &heir) {
     mActive = false;
     mChanged = false;
+    if (mBox->hasFocus())
+        heir.setFocus(Qt::OtherFocusReason);
     mBox->hide();
 }
 

@@ -27,7 +27,8 @@ class CellEditor final : public QObject {
 
     // Shows the text, all selected, and takes the focus.
     void open(const QString &text, const QString &accessibleName);
-    void close();
+    // The focus goes to heir first: hidden with it, the box would hand it on to whatever comes next in the window.
+    void close(QWidget &heir);
     [[nodiscard]] bool active() const { return mActive; }
     // The user has changed the text since it was last written into the array.
     [[nodiscard]] bool changed() const { return mChanged; }

@@ -175,7 +175,9 @@ void fldGridField::Igrid_SetColumns() try {
 }
 ERROR_TAIL()
 
-QString fldGridField::Igrid_GetHeader() const try { return Ifield_GetEnabled() ? mHeads.GetHeader() : QString(); }
+QStringList fldGridField::Igrid_GetHeader() const try {
+    return Ifield_GetEnabled() ? mHeads.GetHeader() : QStringList();
+}
 ERROR_TAIL({})
 
 QString fldGridField::Igrid_GetUIIDList() const {

@@ -81,7 +81,7 @@ class fldGridField final : public EditableField, public Igrid, public NavigatorG
     void Igrid_SetColumnEnabled(const QString &UIID) override;
     void Igrid_AppendRow(const XArrayDB &NewRowArray) override;
     void Igrid_InsertRow(const XArrayDB &NewRowArray, qint32 lngRowNumber) override;
-    QString Igrid_GetHeader() const override;
+    QStringList Igrid_GetHeader() const override;
     XArrayDB &Igrid_GetArray() override { return mCells.DisplayArray(); }
     void Igrid_SetColumns() override;
     void Igrid_Rebind(bool Dynamic) override;

@@ -17,8 +17,7 @@ struct FieldProperties;
 // do nothing), GuideUIID (""; its records are counted, its values are their names), PositionStorageUIID (""; without it
 // a move of the slider changes nothing), GotoNumber (1), SliderStyle (0: step buttons; 1 and 2: list and record
 // buttons), ButtonAdd, ButtonInsert, ButtonRepeat, ButtonDelete (true with style 2, else false), GridControl (""),
-// SubNavigator
-// (""), Enabled (true).
+// SubNavigator (""), Enabled (true).
 // Events: "ChangedPosition", "ChangePositionStorage", "AddRecordNavigator", "DeleteRecordNavigator",
 // "InsertRecordNavigator", "RepeatRecordNavigator", "ValidateForm".
 class fldPageNavigator final : public EditableField, public Inavigator, public NavigatorButtons, private PositionOwner {
@@ -60,7 +59,7 @@ class fldPageNavigator final : public EditableField, public Inavigator, public N
     void Inavigator_ForcePositionChange(qint32 lngPosition) override;
     QString Inavigator_StoragePositionUIID() const override { return mPositionStorageUIID; }
     QString Inavigator_GridControl() const override { return mGridControl; }
-    bool ButtonAdd() const override { return mParts.shows(NavigatorButton::kAdd); }
+    [[nodiscard]] bool ButtonAdd() const override { return mParts.shows(NavigatorButton::kAdd); }
 
     // Widened to 6000 twips if narrower; the height follows from the slider.
     TwipSize SetControlSize(const TwipSize &size) override;

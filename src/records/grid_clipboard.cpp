@@ -141,8 +141,18 @@ QString GridClipboard::recordsToOverwrite() {
     return records.join(u'|');
 }
 
+// What is being typed is written first, while its echo is still on.
+bool GridClipboard::mayImport() {
+    bool cancel = false;
+    if (mGrid.Table().EditActive())
+        mGrid.Validate(cancel);
+    return !cancel && !mGrid.Terminated();
+}
+
 // The component is spoken to itself where the form has been closed meanwhile: the echo must never stay off.
 void GridClipboard::ImportRecords() {
+    if (!mayImport())
+        return;
     const auto echo = QStringLiteral("SetProviderUpdateUIOnFieldChange");
     mGrid.Raise(FieldEvent(echo, in(false)));
     const QString selected = recordsToOverwrite();

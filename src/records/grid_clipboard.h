@@ -40,6 +40,7 @@ class GridClipboard {
     void paste(const QString &text);
     void pasteValue(const QString &text);
     void replaceSelection(const QString &text);
+    [[nodiscard]] bool mayImport();
     void ImportRecords();
     [[nodiscard]] QString recordsToOverwrite();
 

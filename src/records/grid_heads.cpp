@@ -75,11 +75,11 @@ void GridHeads::SetColumns(GridModel &model, TDBGrid &table) const {
     table.setColumnWidths(widths);
 }
 
-QString GridHeads::GetHeader() const {
-    QString header;
+QStringList GridHeads::GetHeader() const {
+    QStringList header;
     for (const QString &uiid : mColumns.uiids()) {
         const qint32 width = mGrid.Component().GetUIWidth(uiid);
-        header += u' ' + LeftPadString(caption(uiid), u' ', width);
+        header.push_back(u' ' + LeftPadString(caption(uiid), u' ', width));
     }
     return header;
 }

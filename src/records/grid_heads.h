@@ -15,7 +15,7 @@ class GridHeads {
     // A column without a label is left off: the radio does not have the field.
     void SetColumns(GridModel &model, TDBGrid &table) const;
     // Each column's label, padded on the left to the field's width, behind a blank.
-    [[nodiscard]] QString GetHeader() const;
+    [[nodiscard]] QStringList GetHeader() const;
 
   private:
     [[nodiscard]] QString caption(const QString &uiid) const;

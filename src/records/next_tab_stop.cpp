@@ -1,7 +1,7 @@
 #include "next_tab_stop.h"
 
-#include <QApplication>
-#include <QFocusEvent>
+#include "field_host.h"
+
 #include <QWidget>
 
 namespace {
@@ -40,22 +40,20 @@ HostControl *NextTabStop(const HostControls &controls, qint32 tabIndex, TabDirec
 }
 
 void focusByTab(HostControl &control, TabDirection direction) {
-    const QWidget *before = QApplication::focusWidget();
-    control.SetFocus();
-    QWidget *now = QApplication::focusWidget();
-    if (now == nullptr || now == before)
-        return;
-    QFocusEvent arrival(QEvent::FocusIn, reasonOf(direction));
-    QCoreApplication::sendEvent(now, &arrival);
+    const auto *host = dynamic_cast<const FieldHost *>(&control);
+    QWidget *part = host == nullptr || host->Widget() == nullptr ? nullptr : host->Widget()->focusProxy();
+    if (part == nullptr)
+        control.SetFocus();
+    else
+        part->setFocus(reasonOf(direction));
 }
 
 void focusBeyond(QWidget &widget, TabDirection direction) {
-    const auto reason = reasonOf(direction);
     for (QWidget *next = follower(widget, direction); next != nullptr && next != &widget;
          next = follower(*next, direction)) {
         if (!isReachedByTab(*next, widget))
             continue;
-        next->setFocus(reason);
+        next->setFocus(reasonOf(direction));
         return;
     }
 }

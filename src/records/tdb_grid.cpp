@@ -264,10 +264,7 @@ void TDBGrid::tellEdited() { mEvents.Change(); }
 void TDBGrid::finishEdit() {
     if (!EditActive())
         return;
-    const bool hadFocus = mEditor->box().hasFocus();
-    mEditor->close();
-    if (hadFocus)
-        setFocus(Qt::OtherFocusReason);
+    mEditor->close(*this);
     viewport()->update();
 }
 

@@ -18,8 +18,8 @@ struct Row {
     const char *caption;
     qint32 value; // for SetAccessLevel
 };
-constexpr std::array<Row, 4> kLevels{Row{"&High", 80}, Row{"&Medium", 60}, Row{"&Low", 40},
-                                     Row{"&ID and Personalisation Only", 20}};
+constexpr std::array<Row, AccessLevels::kCount> kLevels{Row{"&High", 80}, Row{"&Medium", 60}, Row{"&Low", 40},
+                                                        Row{"&ID and Personalisation Only", 20}};
 constexpr qint32 kPreviousLevel = 4; // of the setting: the level last used
 } // namespace
 
@@ -32,10 +32,17 @@ AccessLevels::AccessLevels(Transformer &transformer, const ProcessValues &proces
         const auto index = qint32(i) + 1;
         entry->setObjectName(QStringLiteral("mnuAccessLevelOption(%1)").arg(index));
         entry->setCheckable(true);
-        texts.Add(QString::fromLatin1(kLevels.at(i).caption), [entry](const QString &text) { entry->setText(text); });
+        texts.Add(Caption(index), [entry](const QString &text) { entry->setText(text); });
         QObject::connect(entry, &QAction::triggered, &options, [this, index] { mnuAccessLevelOption_Click(index); });
         mEntries.at(i) = entry;
     }
+}
+
+QString AccessLevels::Caption(qint32 Level) {
+    if (Level < 1 || Level > kCount)
+        throw RunTimeError(ErrorNumber::kIndexOutOfRange, QStringLiteral("AccessLevels"),
+                           QStringLiteral("There is no access level %1").arg(Level));
+    return QString::fromLatin1(kLevels.at(std::size_t(Level - 1)).caption);
 }
 
 void AccessLevels::InitialiseAccessLevels() try {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include <QString>
 
 #include <array>
 
@@ -16,6 +16,10 @@ struct ProcessValues;
 // The four access levels, numbered from 1 (most) to 4 (least), and how they dim the tree.
 class AccessLevels {
   public:
+    static constexpr qint32 kCount = 4;
+    // The English caption of a level; error 9 outside 1 to kCount.
+    [[nodiscard]] static QString Caption(qint32 Level);
+
     AccessLevels(Transformer &transformer, const ProcessValues &process, FormNodes &nodes, const FormHost &host,
                  MainMenu &menu, TranslatedTexts &texts, ErrorReport &errors);
 
@@ -33,5 +37,5 @@ class AccessLevels {
     FormNodes &mNodes;
     const FormHost &mHost;
     ErrorReport &mErrors;
-    std::array<QAction *, 4> mEntries{};
+    std::array<QAction *, kCount> mEntries{};
 };

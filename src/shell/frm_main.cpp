@@ -38,11 +38,11 @@ void frmMain::Form_Resize() { mWiring->layout.Form_Resize(); }
 QString frmMain::ProjectName() const { return mWiring->startUp.ProjectName(); }
 void frmMain::ProjectName(const QString &name) { mWiring->startUp.ProjectName(name); }
 void frmMain::ResetToDefaults() { mWiring->documentCommands.ResetToDefaults(); }
-// The help viewer comes with later work; its commands are disabled until then.
-void frmMain::ShowWhatsThisHelp(qint32 /*HelpContextID*/) {}
+void frmMain::ShowWhatsThisHelp(qint32 HelpContextID) { mWiring->help.ShowWhatsThisHelp(HelpContextID); }
 bool frmMain::ValidFormControlNameForTier(const QString &strFormControlName) const {
     return mWiring->nodes.ValidFormControlNameForTier(strFormControlName);
 }
+bool frmMain::CanOpen(const QString &usrfrmName) const { return mWiring->host.CanOpen(usrfrmName); }
 bool frmMain::OpenForm(const QString &usrfrmName, const QString &usrfrmDesc, bool blnDoWeSaveFormImmediately) {
     return mWiring->host.OpenForm(usrfrmName, usrfrmDesc, blnDoWeSaveFormImmediately);
 }
@@ -154,7 +154,7 @@ void frmMain::closeEvent(QCloseEvent *event) {
 void frmMain::keyPressEvent(QKeyEvent *event) {
     if (event->key() == Qt::Key_Escape)
         mWiring->formCommands.Form_KeyPress(27);
-    else
+    else if (event->key() != Qt::Key_F1 || !mWiring->help.Form_KeyDown(HelpCommands::kF1Code, event->modifiers()))
         QMainWindow::keyPressEvent(event);
 }
 

@@ -52,6 +52,8 @@ class frmMain final : public QMainWindow, public FormShell, public TransformerEv
     void ResetToDefaults();
     void ShowWhatsThisHelp(qint32 HelpContextID) override;
     [[nodiscard]] bool ValidFormControlNameForTier(const QString &strFormControlName) const;
+    // False for a form that this program cannot build.
+    [[nodiscard]] bool CanOpen(const QString &usrfrmName) const;
     bool OpenForm(const QString &usrfrmName, const QString &usrfrmDesc, bool blnDoWeSaveFormImmediately);
     bool SaveForm();
     bool CloseForm(bool SaveNow);
@@ -89,9 +91,8 @@ class frmMain final : public QMainWindow, public FormShell, public TransformerEv
     // As TransformerEvents_GeneralDialog, for the shell's own questions.
     void GeneralDialog(const QString &Prompt, qint32 Buttons, const QString &Title, qint32 &Answer,
                        const QString &strParameters);
-    // While true the component's messages are answered with 6 and not shown.
     [[nodiscard]] bool SilentMode() const;
-    void SilentMode(bool silent);
+    void SilentMode(bool silent) override;
     [[nodiscard]] const HostedForm &LoadedUsrControl() const;
     [[nodiscard]] bool ChangingForms() const override;
     // What the component wrote, for tests.

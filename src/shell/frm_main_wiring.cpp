@@ -1,15 +1,16 @@
 #include "frm_main_wiring.h"
 
 #include "common_error_handler.h"
+#include "frm_preferences.h"
 #include "product_identity.h"
 #include "program_icons.h"
+#include "serial_ports.h"
 
 #include <QMenu>
 #include <QMenuBar>
 #include <QStatusBar>
 #include <QToolBar>
 
-#include <array>
 
 frmMain::Wiring::Wiring(frmMain &ownWindow, const ShellServices &services) : window(ownWindow), with(services) {
     with.process.objTransformer = &with.transformer;
@@ -37,13 +38,15 @@ void frmMain::Wiring::nameParts() {
 
 void frmMain::Wiring::connectCommands() {
     // A command that has no row comes with later work and stays disabled.
-    const std::array<std::pair<const char *, std::function<void()>>, 20> commands{{
+    const std::pair<const char *, std::function<void()>> commands[] = {
         {"mnuNew", [this] { documentCommands.mnuNew_Click(); }},
         {"mnuOpen", [this] { documentCommands.mnuOpen_Click(); }},
         {"mnuSave", [this] { documentCommands.mnuSave_Click(); }},
         {"mnuSaveAs", [this] { documentCommands.mnuSaveAs_Click(); }},
         {"mnuSquirt", [this] { documentCommands.mnuSquirt_Click(); }},
         {"mnuRevertToSaved", [this] { documentCommands.mnuRevertToSaved_Click(); }},
+        {"mnuPrint", [this] { print.mnuPrint_Click(); }},
+        {"mnuPrinterSettings", [this] { print.mnuPrinterSettings_Click(); }},
         {"mnuExit", [this] { shutDown.mnuExit_Click(); }},
         {"mnuUndo", [this] { formCommands.mnuUndo_Click(); }},
         {"mnuCut", [this] { editCommands.mnuCut_Click(); }},
@@ -51,6 +54,7 @@ void frmMain::Wiring::connectCommands() {
         {"mnuPaste", [this] { editCommands.mnuPaste_Click(); }},
         {"mnuDelete", [this] { editCommands.mnuDelete_Click(); }},
         {"mnuSelectAll", [this] { editCommands.mnuSelectAll_Click(); }},
+        {"mnuOptions", [this] { preferences.mnuOptions_Click(); }},
         {"mnuReadRadio", [this] { radio.mnuRead_Click(); }},
         {"mnuProgramRadio", [this] { radio.mnuProgram_Click(); }},
         {"mnuInterrogateRadio", [this] { radio.mnuInterrogateRadio_Click(); }},
@@ -58,7 +62,11 @@ void frmMain::Wiring::connectCommands() {
         {"mnuRevertForm", [this] { formCommands.mnuRevertForm_Click(); }},
         {"mnuAccept", [this] { formCommands.mnuAccept_Click(); }},
         {"mnuReject", [this] { formCommands.mnuReject_Click(); }},
-    }};
+        {"mnuContents", [this] { help.mnuContents_Click(); }},
+        {"mnuWhatsThisHelp", [this] { help.mnuWhatsThisHelp_Click(); }},
+        {"mnuMobilesSupport", [this] { webPages.mnuMobilesSupport_Click(); }},
+        {"mnuHomePage", [this] { webPages.mnuHomePage_Click(); }},
+    };
     for (const auto &[name, command] : commands)
         menu.Connect(QString::fromLatin1(name), command);
     toolBarCommands.DisableUnconnected(standardBar);
@@ -71,4 +79,23 @@ void frmMain::Wiring::connectCommands() {
     QObject::connect(&tree, &FormTreeWidget::NodeChosen, &tree, [this] { navigation.FormTree_NodeClick(); });
     QObject::connect(&menu.Menu(QStringLiteral("mnuEdit")), &QMenu::aboutToShow, &tree,
                      [this] { editCommands.mnuEdit_Click(); });
+}
+
+void frmMain::Wiring::showNewLanguage() {
+    tiers.ShowToolTips();
+    tiers.tbrTiers_ButtonClick(1);
+}
+
+void frmMain::Wiring::showPreferences() {
+    const SerialPorts ports;
+    frmPreferences dialog({with.transformer, with.translation, with.boxes, with.errors, ports}, &window);
+    dialog.Form_Load();
+    dialog.exec();
+}
+
+void frmMain::Wiring::runStandardButton(const QString &key) {
+    if (key == QStringLiteral("Help"))
+        help.ShowFormTopic();
+    else
+        toolBarCommands.Run(key);
 }

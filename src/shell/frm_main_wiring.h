@@ -22,11 +22,15 @@
 #include "form_tree_widget.h"
 #include "frm_main.h"
 #include "green_ticks.h"
+#include "help_commands.h"
+#include "help_web_pages.h"
 #include "language_setup.h"
 #include "load_failure.h"
 #include "main_error_sink.h"
 #include "main_menu.h"
 #include "pane_layout.h"
+#include "preferences_command.h"
+#include "print_commands.h"
 #include "recent_files.h"
 #include "resizing_area.h"
 #include "shell_tool_bar.h"
@@ -51,7 +55,11 @@ struct frmMain::Wiring {
     Wiring(frmMain &window, const ShellServices &services);
 
     void connectCommands();
+    // The help button opens the page of the form; every other button runs a menu command.
+    void runStandardButton(const QString &key);
     void nameParts();
+    void showNewLanguage();
+    void showPreferences();
 
     frmMain &window;
     ShellServices with;
@@ -77,7 +85,7 @@ struct frmMain::Wiring {
                              QStringLiteral("Standard tool bar"),
                              ShellToolBars::standardRows(),
                              texts,
-                             [this](const QString &key) { toolBarCommands.Run(key); }};
+                             [this](const QString &key) { runStandardButton(key); }};
     ShellToolBar radioBar{&area,
                           QStringLiteral("tbrRadio"),
                           QStringLiteral("Radio tool bar"),
@@ -111,6 +119,10 @@ struct frmMain::Wiring {
     EditCommands editCommands{with.process, host, menu, with.clipboard, with.errors};
     EditShortcuts editShortcuts{window, menu, editCommands};
 
+    // Help
+    HelpCommands help{with.process, with.transformer, with.translation, with.boxes, {window, host, nodes}, with.errors};
+    HelpWebPages webPages{with.transformer, with.boxes, with.errors};
+
     // Documents and radio
     DocumentShellAdapter documentShell{
         {window, host, pane, nodes, filterTabs, navigation, formCommands, ticks, title, dialogs, loadFailure}};
@@ -120,6 +132,7 @@ struct frmMain::Wiring {
     DocumentFront documents{documentCommands, fileIO, nodes};
     clsTalkToRadio radio{with.process, documentShell, with.boxes, with.errors,
                          [this](InterrogationType type) { with.progressWindow(type, &window); }};
+    PrintCommands print{forForms, {with.forms, nodes, host, pointer}, window};
 
     // Tiers, events, beginning and end
     Tiers tiers{with.transformer,
@@ -134,12 +147,16 @@ struct frmMain::Wiring {
                       loadFailure, with.processControl},
                      with.errors};
     LanguageSetup language{
-        with.transformer, with.translation, with.boxes, texts, with.errors, [this] { tiers.tbrTiers_ButtonClick(1); }};
+        with.transformer, with.translation, with.boxes, texts, with.errors, [this] { showNewLanguage(); }};
     CommandLine commandLine{with.arguments, with.boxes, with.errors};
     StartUp startUp{with.transformer,
                     {commandLine, loadFailure, language, levels, tiers, tierButtons, host, menu, pointer, documents,
                      with.splash, with.processControl, with.boxes, window},
                     with.errors};
+    PreferencesCommand preferences{
+        with.transformer, with.translation, {host, startUp, navigation, layout, levels, language}, with.errors, [this] {
+            showPreferences();
+        }};
     ShutDown shutDown{
         with.transformer, with.process, {window, position, dialogs, nodes, host, inputFilter, window}, with.errors};
     MainErrorSink errorSink{with.boxes, pointer, shutDown};

@@ -21,6 +21,9 @@ constexpr std::array kRows{
     Row{"ZB2500 Rx", "zb2kp_en"},
     Row{"ZB2500 Tx", "zb2kp_en"},
 };
+constexpr std::array kBaseNames{"kx4kp_en", kCalibration, "kx47p_en", "zb2kc_en", "zb2kp_en"};
+const QString kCompiled = QStringLiteral(".chm");
+const QString kWindows = QStringLiteral(".hlp");
 } // namespace
 
 QString HelpFileName::of(const QString &radioModel) {
@@ -29,4 +32,17 @@ QString HelpFileName::of(const QString &radioModel) {
             return QString::fromLatin1(row.file);
     }
     return QStringLiteral("zb2kc_en");
+}
+
+QString HelpFileName::compiled(const QString &radioModel) { return of(radioModel) + kCompiled; }
+
+QString HelpFileName::windows(const QString &radioModel) { return of(radioModel) + kWindows; }
+
+QStringList HelpFileName::all() {
+    QStringList names;
+    for (const QString &extension : {kWindows, kCompiled}) {
+        for (const char *base : kBaseNames)
+            names << QString::fromLatin1(base) + extension;
+    }
+    return names;
 }

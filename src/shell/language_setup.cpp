@@ -9,9 +9,6 @@
 #include "translation.h"
 #include "window_services.h"
 
-#include <QCoreApplication>
-#include <QFileInfo>
-
 #include <array>
 #include <utility>
 
@@ -42,12 +39,7 @@ QString LanguageSetup::Name(qint32 language) {
     return row == nullptr ? QString() : QString::fromLatin1(row->name);
 }
 
-QString LanguageSetup::DictionaryFile() {
-    const QString name = QStringLiteral("KX4600.mld");
-    const QString folder = QCoreApplication::applicationDirPath();
-    const QString beside = folder + QStringLiteral("/") + name;
-    return QFileInfo::exists(beside) ? beside : folder + QStringLiteral("/../share/kx4600/") + name;
-}
+QString LanguageSetup::DictionaryFile() { return TranslationDictionary::StandardFile(); }
 
 bool LanguageSetup::SetupLanguage() try {
     const qint32 language = Setting::integer(mTransformer, QStringLiteral("Language"), 1);

@@ -18,6 +18,7 @@
 #include "window_services.h"
 
 #include <array>
+#include <utility>
 
 namespace {
 bool isDataFile(const QString &fileName) {
@@ -38,10 +39,15 @@ void StartUp::Form_Initialize() try {
     mTransformer.SetCallerVersion(ProductIdentity::callerVersion());
     if (mTransformer.GetLoadFailed())
         mParts.loadFailure.FailedToLoadDLL(QStringLiteral("Dat file"));
-    mTextAlignment = Setting::integer(mTransformer, QStringLiteral("TextAlignment"), 1);
-    mTierTree = Setting::integer(mTransformer, QStringLiteral("TierTree"), 0);
+    ReadAppearance();
 }
 ERROR_TAIL()
+
+bool StartUp::ReadAppearance() {
+    const qint32 alignment = Setting::integer(mTransformer, QStringLiteral("TextAlignment"), 1);
+    mTierTree = Setting::integer(mTransformer, QStringLiteral("TierTree"), 0);
+    return std::exchange(mTextAlignment, alignment) != alignment;
+}
 
 void StartUp::Form_Load() try {
     prepareWindow();

@@ -40,6 +40,8 @@ class StartUp {
     void Form_Initialize();
     void Form_Load();
 
+    // Reads the settings of how forms look; true if the alignment of labels has changed.
+    bool ReadAppearance();
     [[nodiscard]] qint32 TextAlignment() const { return mTextAlignment; }
     // Prefix of a form's class identifier.
     [[nodiscard]] const QString &ProjectName() const { return mProjectName; }

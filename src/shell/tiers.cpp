@@ -49,11 +49,16 @@ void Tiers::EnableTiers(const QString &tiers) try {
         buttons.Add(key, caption + QStringLiteral("   "));
         addMenuEntry(buttons.Count(), caption, key);
     }
+    ShowToolTips();
+}
+ERROR_TAIL()
+
+void Tiers::ShowToolTips() {
+    TierButtons &buttons = mParts.buttons;
     for (qint32 button = 1; button <= buttons.Count(); ++button)
         buttons.SetToolTip(button, mTranslation.NLSFmt(QStringLiteral("Switch to the %0:S radio model"),
                                                        buttons.Caption(button).trimmed()));
 }
-ERROR_TAIL()
 
 void Tiers::addMenuEntry(qint32 index, const QString &caption, const QString &key) {
     QMenu &menu = mParts.menu.Menu(QStringLiteral("mnuModel"));
@@ -90,7 +95,7 @@ void Tiers::switchTo(const QString &key) {
 void Tiers::ChangeToTier(const QString &TierKey, const FormLists &lists, bool &Result) try {
     Result = false;
     mTransformer.SaveSetting(QStringLiteral("Helpfile"),
-                             mTranslation.NLSStr(HelpFileName::of(mTransformer.GetRadioModel())));
+                             mTranslation.NLSStr(HelpFileName::compiled(mTransformer.GetRadioModel())));
     if (const qint32 button = mParts.buttons.IndexOfKey(TierKey))
         mParts.buttons.Press(button);
     mParts.filterTabs.UpdateTreeFilterTab();

@@ -46,6 +46,8 @@ class Tiers {
 
     // tiers: three fields a tier (unused, caption, key), each closed by "|" but for the very last.
     void EnableTiers(const QString &tiers);
+    // In the present language.
+    void ShowToolTips();
     // Button: from 1; raises error 35600 out of bounds.
     void tbrTiers_ButtonClick(qint32 Button);
     void mnuItemsModel_Click(const QString &TierKey);

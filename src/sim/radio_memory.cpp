@@ -43,7 +43,8 @@ QString RadioMemory::attach(const QString &path) {
 
 QString RadioMemory::create(const QString &path) {
     QSaveFile file(path);
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(header() + mBanks[0] + mBanks[1]) >= 0;
+    const QByteArray content = header() + mBanks[0] + mBanks[1];
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(content) == content.size() && file.flush();
     return written && file.commit() ? QString() : file.errorString();
 }
 

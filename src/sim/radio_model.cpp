@@ -47,7 +47,7 @@ std::optional<RadioModel> RadioModel::make(const Dictionary &dictionary, const S
                       .maxBlock = Wire::kMaxBlock,
                       .serialNumber = options.serial,
                       .imageSize = quint32(layout.imageSize(*tier)),
-                      .highSpeed = true,
+                      .highSpeed = !options.startSpeedOnly,
                       .hardwareRevision = 3,
                       .softwareMajor = 2,
                       .softwareMinor = 1,

@@ -74,6 +74,7 @@ constexpr std::array kOptions{
     Option{"--version", "1|2", setVersion},
     Option{"--image", "FILE", [](SimOptions &o, const QString &v) { return setText(o.image, v); }},
     Option{"--full-speed", "", [](SimOptions &o, const QString &) { return o.fullSpeed = true; }},
+    Option{"--start-speed-only", "", [](SimOptions &o, const QString &) { return o.startSpeedOnly = true; }},
     Option{"--drop", "P", [](SimOptions &o, const QString &v) { return probability(v, o.faults.drop); }},
     Option{"--corrupt", "P", [](SimOptions &o, const QString &v) { return probability(v, o.faults.corrupt); }},
     Option{"--delay", "MS", setDelay},

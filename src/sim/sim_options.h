@@ -16,6 +16,7 @@ struct SimOptions {
     std::optional<int> version; // none: the newest
     QString image;              // "": memory only
     bool fullSpeed = false;
+    bool startSpeedOnly = false; // the radio cannot step up to 115200 bit/s
     LineFaults faults;
 
     [[nodiscard]] static QString usage();

@@ -1,37 +1,31 @@
 #include "data_form.h"
 #include "frm_main.h"
 #include "ifield.h"
+#include "igrid.h"
 #include "program_bench.h"
 #include "transformer.h"
 #include "value_text.h"
+#include "window_input.h"
+#include "xarray_db.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 
 #include <span>
 
 namespace {
-// Their grids and call-ups are still to come.
-const QStringList kLater{QStringLiteral("Channels"),
-                         QStringLiteral("Scan Groups"),
-                         QStringLiteral("UI Preferences"),
-                         QStringLiteral("Programmable I/O"),
-                         QStringLiteral("Data"),
-                         QStringLiteral("Selcall Identity"),
-                         QStringLiteral("Fixed Format Bursts"),
-                         QStringLiteral("Free Format Bursts"),
-                         QStringLiteral("Control Status"),
-                         QStringLiteral("DTMF Systems")};
-
 // Forms that a tier shows, by their captions in the tree, in its order.
 QStringList formsOf(const ProgramBench &bench) {
     QStringList captions;
     for (QTreeWidgetItemIterator at(bench.window().findChild<QTreeWidget *>(QStringLiteral("FormTree")));
          *at != nullptr; ++at) {
-        if ((*at)->childCount() == 0 && !kLater.contains((*at)->text(0)))
+        if ((*at)->childCount() == 0)
             captions << (*at)->text(0);
     }
     return captions;
@@ -63,20 +57,16 @@ void fillData(const ProgramBench &bench) {
         bench.setValue(QStringLiteral("SignallingType"), 1, 1);
 }
 
-// What is wrong with the geometry of what is seen.
+// What is wrong with the geometry of what is seen of a form.
 class Geometry {
   public:
-    Geometry(const ProgramBench &bench, QStringList &faults) : mBench(bench), mFaults(faults) {}
+    Geometry(DataForm &form, QStringList &faults) : mForm(form), mFaults(faults) {}
 
     void look(const QString &where) {
         mWhere = where;
-        for (const char *bar : {"HScroll1", "VScroll1"}) {
-            if (mBench.window().findChild<QScrollBar *>(QLatin1String(bar))->isVisible())
-                fault(QStringLiteral("scrolls"), QLatin1String(bar));
-        }
         QList<const QWidget *> seen;
-        for (HostControl *control : mBench.form()->Iusrfrm_Controls()) {
-            const auto *widget = mBench.form()->findChild<QWidget *>(control->Name());
+        for (HostControl *control : mForm.Iusrfrm_Controls()) {
+            const auto *widget = mForm.findChild<QWidget *>(control->Name());
             if (widget->isVisible())
                 lookAt(*widget, seen);
         }
@@ -96,7 +86,7 @@ class Geometry {
         mFaults << mWhere + QStringLiteral(": ") + name + u' ' + what;
     }
 
-    const ProgramBench &mBench;
+    DataForm &mForm;
     QStringList &mFaults;
     QString mWhere;
 };
@@ -108,11 +98,15 @@ class tst_all_forms final : public QObject {
   private Q_SLOTS:
     void everyFormOpensFilled_data();
     void everyFormOpensFilled();
+    void everyCallUpOpensItsSequence_data();
+    void everyCallUpOpensItsSequence();
 
   private:
+    [[nodiscard]] int lookAtSubForm(const ProgramBench &bench);
     void lookAtForm(const ProgramBench &bench, const QString &caption);
-    void lookAtField(const ProgramBench &bench, Ifield &field, const QString &where);
-    void picture(const ProgramBench &bench, const QString &name);
+    void lookAtField(const ProgramBench &bench, const HostControl &control, const QString &where);
+    void lookAtGrid(const ProgramBench &bench, Igrid &grid, const QString &where);
+    void picture(const ProgramBench &bench, QWidget &window, const QString &name);
 
     QStringList mFaults;
 };
@@ -120,9 +114,9 @@ class tst_all_forms final : public QObject {
 void tst_all_forms::everyFormOpensFilled_data() {
     QTest::addColumn<QString>("tier");
     QTest::addColumn<int>("forms");
-    QTest::newRow("basic") << QStringLiteral("Basic") << 8;
-    QTest::newRow("standard") << QStringLiteral("Standard") << 13;
-    QTest::newRow("advanced") << QStringLiteral("Advanced") << 15;
+    QTest::newRow("basic") << QStringLiteral("Basic") << 12;
+    QTest::newRow("standard") << QStringLiteral("Standard") << 22;
+    QTest::newRow("advanced") << QStringLiteral("Advanced") << 25;
 }
 
 void tst_all_forms::everyFormOpensFilled() {
@@ -140,12 +134,56 @@ void tst_all_forms::everyFormOpensFilled() {
     QTEST(int(captions.size()), "forms");
 }
 
-void tst_all_forms::lookAtForm(const ProgramBench &bench, const QString &caption) {
-    for (HostControl *control : bench.form()->Iusrfrm_Controls()) {
-        if (Ifield *field = control->object())
-            lookAtField(bench, *field, caption + QStringLiteral(": ") + control->Name());
+void tst_all_forms::everyCallUpOpensItsSequence_data() {
+    QTest::addColumn<QString>("tier");
+    QTest::newRow("standard") << QStringLiteral("Standard");
+    QTest::newRow("advanced") << QStringLiteral("Advanced");
+}
+
+// Seven sequences to a system: with the second system on show they are 8 to 14.
+void tst_all_forms::everyCallUpOpensItsSequence() {
+    QFETCH(QString, tier);
+    mFaults.clear();
+    ProgramBench bench;
+    bench.chooseTier(tier);
+    fillData(bench);
+    fillData(bench);
+    QVERIFY(bench.openForm(QStringLiteral("Free Format Bursts")));
+    WindowInput::click(bench.part<QPushButton>(QStringLiteral("fldPageNavigator1"), "cmdLast"));
+    for (int callUp = 1; callUp <= 7; ++callUp) {
+        const QString name = QStringLiteral("fldFreeFormatDetail%1").arg(callUp);
+        int shown = 0;
+        QTimer waits;
+        connect(&waits, &QTimer::timeout, this, [&] { shown = qMax(shown, lookAtSubForm(bench)); });
+        waits.start(20);
+        WindowInput::click(*bench.form()->findChild<QWidget *>(name)->findChild<QPushButton *>());
+        QCOMPARE(shown, 7 + callUp);
     }
-    Geometry geometry(bench, mFaults);
+    QCOMPARE(mFaults.join(u'\n'), QString());
+}
+
+// The record that it shows; closes it. 0 while it is not open.
+int tst_all_forms::lookAtSubForm(const ProgramBench &bench) {
+    QWidget *const window = QApplication::activeModalWidget();
+    auto *const form = window == nullptr ? nullptr : window->findChild<DataForm *>();
+    if (form == nullptr)
+        return 0;
+    int record = 0;
+    for (const HostControl *control : form->Iusrfrm_Controls()) {
+        lookAtField(bench, *control, QStringLiteral("Sub-form: ") + control->Name());
+        if (control->TypeName() == u"fldPageNavigator")
+            record = control->object()->Ifield_GetRecordNr();
+    }
+    Geometry(*form, mFaults).look(QStringLiteral("Sub-form"));
+    picture(bench, *window, QStringLiteral("Sub-form"));
+    window->findChild<QPushButton *>(QStringLiteral("cmdCancel"))->click();
+    return record;
+}
+
+void tst_all_forms::lookAtForm(const ProgramBench &bench, const QString &caption) {
+    for (const HostControl *control : bench.form()->Iusrfrm_Controls())
+        lookAtField(bench, *control, caption + QStringLiteral(": ") + control->Name());
+    Geometry geometry(*bench.form(), mFaults);
     auto *tabs = bench.form()->findChild<QTabWidget *>(QStringLiteral("SSTab1"));
     for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
         const QString where = tabs == nullptr ? caption : caption + u'-' + QString::number(page + 1);
@@ -155,15 +193,22 @@ void tst_all_forms::lookAtForm(const ProgramBench &bench, const QString &caption
             tabs->setCurrentIndex(page);
         QCoreApplication::processEvents();
         geometry.look(where);
-        picture(bench, where);
+        for (const char *bar : {"HScroll1", "VScroll1"}) {
+            if (bench.window().findChild<QScrollBar *>(QLatin1String(bar))->isVisible())
+                mFaults << where + QStringLiteral(": scrolls");
+        }
+        picture(bench, bench.window(), where);
     }
 }
 
-void tst_all_forms::lookAtField(const ProgramBench &bench, Ifield &field, const QString &where) {
+void tst_all_forms::lookAtField(const ProgramBench &bench, const HostControl &control, const QString &where) {
     static const QStringList kValues{QStringLiteral("fldTextField"), QStringLiteral("fldComboField"),
                                      QStringLiteral("fldCheckboxField"), QStringLiteral("fldIdTrackerField")};
-    if (!kValues.contains(field.Ifield_GetTypeName()))
+    if (auto *grid = dynamic_cast<Igrid *>(control.object()))
+        lookAtGrid(bench, *grid, where);
+    if (!kValues.contains(control.TypeName()))
         return;
+    Ifield &field = *control.object();
     if (field.Ifield_GetUIIDNotFound())
         mFaults << where + QStringLiteral(" is not found");
     if (!field.Ifield_GetVisible())
@@ -183,12 +228,19 @@ void tst_all_forms::lookAtField(const ProgramBench &bench, Ifield &field, const 
         mFaults << where + QStringLiteral(" is wrongly enabled or disabled");
 }
 
-void tst_all_forms::picture(const ProgramBench &bench, const QString &name) {
+void tst_all_forms::lookAtGrid(const ProgramBench &bench, Igrid &grid, const QString &where) {
+    const QStringList uiids = grid.Igrid_GetUIIDList().split(u'|');
+    const XArrayDB &rows = grid.Igrid_GetArray();
+    const qint32 records = bench.component().GetNumberOfRecords(uiids.first());
+    if (rows.UpperBound(1) + 1 != records)
+        mFaults << where + QStringLiteral(" has %1 rows for %2 records").arg(rows.UpperBound(1) + 1).arg(records);
+}
+
+void tst_all_forms::picture(const ProgramBench &bench, QWidget &window, const QString &name) {
     const QDir folder(QCoreApplication::applicationDirPath() + QStringLiteral("/../form-pictures"));
     folder.mkpath(QStringLiteral("."));
-    bench.window().grab().save(folder.filePath(bench.component().GetCurrentTier() + u'-' +
-                                               QString(name).replace(u' ', u'_').replace(u'/', u'_') +
-                                               QStringLiteral(".png")));
+    window.grab().save(folder.filePath(bench.component().GetCurrentTier() + u'-' +
+                                       QString(name).replace(u' ', u'_').replace(u'/', u'_') + QStringLiteral(".png")));
 }
 
 QTEST_MAIN(tst_all_forms)

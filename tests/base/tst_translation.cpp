@@ -54,6 +54,16 @@ void tst_Translation::parametersAreTranslatedFirst() {
     translation.Dictionary().LoadText(u"[3]\ncopy the \tcopier \n%0:S%1:S\t%1:S %0:S!\n"_s);
     translation.gLanguage = 3;
     QCOMPARE(translation.NLSFmt(u"%0:S%1:S"_s, u"copy the |Tone"_s), u"Tone copier !"_s);
+    // So are the texts inside a parameter, be it one text with parameters of its own or a list of them.
+    translation.Dictionary().LoadText(u"[3]\nat least %0:S %1:S\tmindestens %0:S %1:S\ncycles\tZyklen\nNo\tNein\n"_s);
+    const QString limit = Translation::Piece(u"at least %0:S %1:S"_s, {u"5"_s, u"cycles"_s});
+    QCOMPARE(translation.NLSFmt(u"<%0:S>"_s, limit), u"<mindestens 5 Zyklen>"_s);
+    const QString list = Translation::Pieces({limit, u"No"_s, u"%0:S"_s}, u", "_s);
+    QCOMPARE(translation.NLSFmt(u"%0:S"_s, list), u"mindestens 5 Zyklen, Nein, %0:S"_s);
+    QCOMPARE(Translation::Fill(u"%0:S"_s, {list}), u"at least 5 cycles, No, %0:S"_s);
+    const QString inner = Translation::Piece(u"<%0:S>"_s, {limit});
+    QCOMPARE(translation.NLSFmt(u"%0:S"_s, Translation::Pieces({inner, u"No"_s}, u" "_s)),
+             u"<mindestens 5 Zyklen> Nein"_s);
 }
 
 void tst_Translation::partsBeyondTheTwentyFirstAreDropped() {

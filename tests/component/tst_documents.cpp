@@ -170,15 +170,21 @@ void tst_documents::olderVersionNamesWhatIsLost() {
     QCOMPARE(mComponent->GetVersionLevel(), 2);
     QVERIFY(mComponent->GetProgramAsAvailable());
     QVERIFY(set(*mComponent, "ChannelCompanding", 1));
+    QVERIFY(set(*mComponent, "TxPower_q7r", 0)); // an item that only the newer version has
     mListener.clear();
     mListener.answer = 7;
-    QVERIFY(!save(*mComponent, path("old.k4p"), 1));
-    QVERIFY2(mListener.messages.value(0).contains(QStringLiteral("Companding")),
-             qPrintable(mListener.messages.value(0)));
+    for (const char *const file : {"old.k4p", "old.sqt"}) {
+        QVERIFY(!save(*mComponent, path(file), 1));
+        QVERIFY2(mListener.messages.takeFirst().contains(
+                     QStringLiteral("not be stored: Tx Power (Channels), Companding (Channels).")),
+                 file);
+        QVERIFY(!QFile::exists(path(file)));
+    }
     QCOMPARE(mComponent->GetVersionLevel(), 2);
     mListener.answer = 6;
     QVERIFY(save(*mComponent, path("old.k4p"), 1));
     QCOMPARE(mComponent->GetVersionLevel(), 1);
+    QVERIFY(get(*mComponent, "TxPower_q7r") != QStringLiteral("0"));
     QVERIFY(!mComponent->GetProgramAsAvailable());
     QVERIFY(!mComponent->GetFieldEnabled(QStringLiteral("ChannelCompanding"), 1));
     QVERIFY(!save(*mComponent, path("new.k4p"), 2));
@@ -265,7 +271,23 @@ void tst_documents::copyToOtherTierListsWhatHasNoPlace() {
     mComponent->CopyFieldToTier(QStringLiteral("IsDataChannel_q7r"), QStringLiteral("Basic"));
     QCOMPARE(mListener.messages.size(), 1);
     QVERIFY(mListener.messages.first().contains(QStringLiteral("Data Channel")));
+    // A field of a navigator: the record of the same number; a grid's columns: all of them, identities at once.
+    const QString id = QStringLiteral("ChannelID_q7r");
+    qint32 added = 0;
+    bool ok = false;
+    mComponent->AddRecord(id, QString(), added, ok);
+    mComponent->SetValue(id, QStringLiteral("9"), 1, true, ok);
+    mComponent->SetValue(id, QStringLiteral("1"), 2, true, ok);
+    mComponent->SetValue(QStringLiteral("CurrentChannelNr"), 2, 0, true, ok);
+    QVERIFY(set(*mComponent, "TxPower_q7r", 1));
+    mListener.clear();
+    mComponent->CopyFieldToTier(QStringLiteral("TxPower_q7r"), QStringLiteral("Basic"));
+    QVERIFY2(mListener.messages.takeLast().endsWith(QStringLiteral("not copied: Tx Power (2).")), "no record 2 there");
+    mComponent->CopyFieldToTier(QStringLiteral("ChannelID_q7r|TxPower_q7r"), QStringLiteral("Basic"));
+    QVERIFY(mListener.messages.takeLast().endsWith(QStringLiteral("not copied: ID (2), Tx Power (2).")));
     mComponent->ChangeTier(QStringLiteral("Basic"));
+    QCOMPARE(get(*mComponent, "ChannelID_q7r"), QStringLiteral("9"));
+    QCOMPARE(get(*mComponent, "TxPower_q7r"), QStringLiteral("1"));
     QCOMPARE(get(*mComponent, "EconomyTimer"), QStringLiteral("66"));
 }
 

@@ -17,7 +17,8 @@ class tst_radio_operations : public QObject {
     void cleanup();
     void programmedValuesAreReadBackByAFreshComponent();
     void readLeavesTheOtherTiers();
-    void wrongTierChangesNothing();
+    void unfitRadioChangesNothing_data();
+    void unfitRadioChangesNothing();
     void missingPortIsNamed();
     void openRunIsExplainedAtTheNextContact_data();
     void openRunIsExplainedAtTheNextContact();
@@ -112,14 +113,29 @@ void tst_radio_operations::readLeavesTheOtherTiers() {
     QCOMPARE(ValueText::of(component->GetValue(QStringLiteral("EconomyTimer"), 0)), QStringLiteral("44"));
 }
 
-void tst_radio_operations::wrongTierChangesNothing() {
-    startRadio({QStringLiteral("--tier"), QStringLiteral("Advanced")});
+void tst_radio_operations::unfitRadioChangesNothing_data() {
+    QTest::addColumn<QStringList>("radio");
+    QTest::addColumn<QStringList>("told");
+    const QString untouched = QStringLiteral("Nothing was sent to the radio.");
+    QTest::newRow("tier") << QStringList{QStringLiteral("--tier"), QStringLiteral("Advanced")}
+                          << QStringList{QStringLiteral("KX4600 Advanced"), untouched};
+    QTest::newRow("older version") << QStringList{QStringLiteral("--tier"), QStringLiteral("Basic"),
+                                                  QStringLiteral("--version"), QStringLiteral("1")}
+                                   << QStringList{QStringLiteral("no room for the values of: Companding (Channels)\n"),
+                                                  QStringLiteral("Save the data as version 3.10"), untouched};
+}
+
+void tst_radio_operations::unfitRadioChangesNothing() {
+    QFETCH(QStringList, radio);
+    QFETCH(QStringList, told);
+    startRadio(radio);
     const std::unique_ptr<TransformerComponent> component = window();
+    bool ok = false;
+    component->SetValue(QStringLiteral("ChannelCompanding"), 1, 1, true, ok);
     component->ProgramRadio();
     QVERIFY(!component->radio().lastReport()->succeeded());
-    QVERIFY2(mListener.messages.last().contains(QStringLiteral("KX4600 Advanced")),
-             qPrintable(mListener.messages.last()));
-    QVERIFY(mListener.messages.last().contains(QStringLiteral("Nothing was sent to the radio.")));
+    for (const QString &part : told)
+        QVERIFY2(mListener.messages.last().contains(part), qPrintable(mListener.messages.last()));
     QVERIFY(mListener.log.contains(QStringLiteral("ProgressBarEnd 1")));
 }
 

@@ -1,14 +1,15 @@
 #include "component_listener.h"
+#include "component_state.h"
 #include "currency.h"
-#include "dictionary.h"
+#include "decimal_text.h"
+#include "dictionary_loader.h"
+#include "field_reader.h"
+#include "value_codec.h"
 #include "value_text.h"
 #include "xarray_db.h"
 
 #include <QCoreApplication>
-#include <QRandomGenerator>
 #include <QTest>
-
-#include <cmath>
 
 class tst_values : public QObject {
     Q_OBJECT
@@ -20,8 +21,13 @@ class tst_values : public QObject {
     void valueIsTakenInItsNormalForm();
     void refusalNamesTheLabelAndWhatIsAllowed_data();
     void refusalNamesTheLabelAndWhatIsAllowed();
-    void limitsAreTakenAndTheirNeighboursRefused();
-    void everyItemOfEveryListGoesInAndComesOut();
+    void everyNumberKeepsItsLimits_data() { tiers(); }
+    void everyNumberKeepsItsLimits();
+    void everyItemGoesInAndComesOut_data() { tiers(); }
+    void everyItemGoesInAndComesOut();
+    void newRecordsHaveNumbersOfTheirOwn();
+    void firstCallerBurstIsTheOwnIdentityUntilItIsChanged();
+    void anotherBandMovesTheFrequenciesThatLieOutside();
     void dependentsAreToldBeforeSetValueReturns();
     void updatesStayAwayWhileSwitchedOff();
     void unknownUiidIsNoError();
@@ -32,7 +38,7 @@ class tst_values : public QObject {
     void sortMovesReferencesAlong();
     void revertTakesBackRecordOperations();
     void lowerAccessLevelLocksFields();
-    void comboValuesServeWhereItemsAreMissing();
+    void fixedItemsAreOfferedBeforeAnyRecord();
     void editTellsWhichFormsItMakesAvailable();
 
   private:
@@ -44,6 +50,11 @@ class tst_values : public QObject {
     [[nodiscard]] QString get(const QString &uiid, qint32 record = 1) const {
         return ValueText::of(mComponent->GetValue(uiid, record));
     }
+    void tiers();
+    void fill(const QString &tier);
+    [[nodiscard]] bool canBeSet(const FieldDefinition &field) const;
+
+    std::unique_ptr<const Dictionary> mDictionary = DictionaryLoader::loadCompiledIn();
     std::unique_ptr<ComponentListener> mListener;
     std::unique_ptr<TransformerComponent> mComponent;
 };
@@ -126,50 +137,70 @@ void tst_values::refusalNamesTheLabelAndWhatIsAllowed() {
     QVERIFY(!mComponent->GetDataIsDirty());
 }
 
-void tst_values::limitsAreTakenAndTheirNeighboursRefused() {
-    int tried = 0;
-    for (const FieldDefinition &field : mComponent->dictionary().fields()) {
-        const bool settable = field.kind == FieldKind::Number && !field.readOnly && !field.fact && !field.hidden &&
-                              field.levelIn(TierIndex(2)) != FieldDefinition::kNever && !field.limitsBy;
-        if (!settable || mComponent->dictionary().structure(field.structure).parent.isValid())
-            continue;
-        if (mComponent->GetNumberOfRecords(field.id) == 0 &&
-            !mComponent->dictionary().structure(field.structure).isRadio()) {
-            qint32 added = 0;
-            bool ok = false;
-            mComponent->AddRecord(field.id, QString(), added, ok);
-            QVERIFY2(ok, qPrintable(field.id));
-        }
-        const double unit = std::pow(10.0, field.decimals);
-        QVERIFY2(set(field.id, QString::number(field.limits.minimum / unit, 'f', field.decimals)),
-                 qPrintable(field.id));
-        QVERIFY2(set(field.id, QString::number(field.limits.maximum / unit, 'f', field.decimals)),
-                 qPrintable(field.id));
-        QVERIFY2(
-            !set(field.id, QString::number((field.limits.minimum - field.limits.step) / unit, 'f', field.decimals)),
-            qPrintable(field.id));
-        QVERIFY2(
-            !set(field.id, QString::number((field.limits.maximum + field.limits.step) / unit, 'f', field.decimals)),
-            qPrintable(field.id));
-        ++tried;
-    }
-    QVERIFY2(tried > 40, "hardly any field was tried");
+void tst_values::tiers() {
+    QTest::addColumn<QString>("tier");
+    for (const TierDefinition &tier : mDictionary->tiers())
+        QTest::newRow(qPrintable(tier.key)) << tier.key;
 }
 
-void tst_values::everyItemOfEveryListGoesInAndComesOut() {
+// One record at least of everything that the tier can have.
+void tst_values::fill(const QString &tier) {
+    mComponent->ChangeTier(tier);
+    for (const RecordStructure &structure : mDictionary->structures()) {
+        const bool canGrow = !structure.isRadio() && structure.in(mComponent->state().tier()).most > 0;
+        qint32 added = 0;
+        bool ok = true;
+        if (canGrow && mComponent->GetNumberOfRecords(structure.guide) == 0)
+            mComponent->AddRecord(structure.guide, QString(), added, ok);
+        QVERIFY2(ok, qPrintable(structure.name));
+    }
+    mListener->clear();
+}
+
+bool tst_values::canBeSet(const FieldDefinition &field) const {
+    const TierIndex tier = mComponent->state().tier();
+    return field.isStored() && !field.readOnly && field.levelIn(tier) != FieldDefinition::kNever;
+}
+
+// In stored units: least and most are taken, what is a step beyond or between two steps is not.
+void tst_values::everyNumberKeepsItsLimits() {
+    QFETCH(QString, tier);
+    fill(tier);
     int tried = 0;
-    for (const FieldDefinition &field : mComponent->dictionary().fields()) {
-        const bool settable = field.hasItems() && !field.readOnly && !field.fact && !field.hidden &&
-                              field.levelIn(TierIndex(2)) != FieldDefinition::kNever;
-        if (!settable || get(field.id) == ValueText::undefined())
+    for (const FieldDefinition &field : mDictionary->fields()) {
+        if (!canBeSet(field) || field.kind != FieldKind::Number)
+            continue;
+        const NumberLimits limits = FieldReader(mComponent->state().current()).limits(field.index, {});
+        const qint32 step = limits.rasters.empty() ? limits.step : limits.rasters.front();
+        const auto taken = [&](qint32 stored) { return set(field.id, DecimalText::of(stored, field.decimals)); };
+        for (const qint32 stored : {limits.maximum, limits.minimum}) {
+            QVERIFY2(taken(stored), qPrintable(field.id));
+            QCOMPARE(get(field.id), ValueCodec::shown(field, stored));
+        }
+        QVERIFY2(!taken(limits.minimum - step) && !taken(limits.maximum + step), qPrintable(field.id));
+        QVERIFY2(step == 1 || !taken(limits.minimum + 1), qPrintable(field.id));
+        QVERIFY2(!set(field.id, DecimalText::of(limits.minimum * 10 + 5, field.decimals + 1)), qPrintable(field.id));
+        QCOMPARE(get(field.id), ValueCodec::shown(field, limits.minimum));
+        ++tried;
+    }
+    QVERIFY2(tried >= 35, qPrintable(QString::number(tried)));
+}
+
+void tst_values::everyItemGoesInAndComesOut() {
+    QFETCH(QString, tier);
+    fill(tier);
+    int tried = 0;
+    for (const FieldDefinition &field : mDictionary->fields()) {
+        if (!canBeSet(field) || (field.kind != FieldKind::List && !field.hasIdItems()))
             continue;
         XArrayDB items;
         qint32 scope = 0;
         QVERIFY2(mComponent->GetComboItems(field.id, 1, items, scope), qPrintable(field.id));
         const QStringList values = mComponent->GetIsComboIndex(field.id).split(u'|', Qt::SkipEmptyParts);
+        QVERIFY2(values.isEmpty() || values.size() == items.UpperBound(1) + 1, qPrintable(field.id));
         for (qint32 row = 0; row <= items.UpperBound(1); ++row) {
             const QString listValue = values.isEmpty() ? QString::number(row) : values[row];
-            const QString value = field.kind == FieldKind::Choice ? items.Value(row, 1).toString() : listValue;
+            const QString value = field.hasIdItems() ? items.Value(row, 1).toString() : listValue;
             QVERIFY2(set(field.id, value), qPrintable(field.id + u' ' + value));
             QCOMPARE(get(field.id), value);
             ++tried;
@@ -322,20 +353,76 @@ void tst_values::lowerAccessLevelLocksFields() {
     QCOMPARE(get(QStringLiteral("RxFreq_q7r")), QStringLiteral("160.000000"));
 }
 
-void tst_values::comboValuesServeWhereItemsAreMissing() {
-    // Every combo: the list index is the value, or there is a value for each item.
+void tst_values::newRecordsHaveNumbersOfTheirOwn() {
+    fill(QStringLiteral("Advanced"));
+    const auto numbers = [this](const QString &uiid) {
+        QStringList values;
+        for (qint32 record = 1; record <= mComponent->GetNumberOfRecords(uiid); ++record)
+            values.append(get(uiid, record));
+        return values.join(u' ');
+    };
+    for (const QString &guide : {QStringLiteral("ChannelID_q7r"), QStringLiteral("ControlStatusValue")}) {
+        const QString first = get(guide);
+        bool ok = false;
+        mComponent->RepeatRecord(guide, 1, QString(), ok);
+        QVERIFY(ok);
+        qint32 added = 0;
+        mComponent->AddRecord(guide, QString(), added, ok);
+        QVERIFY(ok);
+        QCOMPARE(numbers(guide), first == u"0" ? QStringLiteral("0 1 2") : QStringLiteral("1 2 3"));
+    }
+    // All else of a repeated record is copied.
+    bool ok = false;
+    QVERIFY(set(QStringLiteral("RxFreq_q7r"), QStringLiteral("150"), 2));
+    mComponent->RepeatRecord(QStringLiteral("ChannelID_q7r"), 2, QString(), ok);
+    QCOMPARE(get(QStringLiteral("RxFreq_q7r"), 3), QStringLiteral("150.000000"));
+    QCOMPARE(get(QStringLiteral("ChannelID_q7r"), 3), QStringLiteral("4"));
+}
+
+void tst_values::firstCallerBurstIsTheOwnIdentityUntilItIsChanged() {
+    fill(QStringLiteral("Advanced"));
+    const QString identity = QStringLiteral("RxDecodeSeq1_q7r");
+    const QString burst = QStringLiteral("BurstSequence1_q7r");
+    QVERIFY(set(identity, QStringLiteral("12345")));
+    QCOMPARE(get(burst, 1), QStringLiteral("12345"));
+    QCOMPARE(get(burst, 2), QString());
+    QVERIFY(set(burst, QStringLiteral("54321"), 1));
+    QVERIFY(set(identity, QStringLiteral("11111")));
+    QCOMPARE(get(burst, 1), QStringLiteral("54321"));
+}
+
+void tst_values::anotherBandMovesTheFrequenciesThatLieOutside() {
+    const QString band = QStringLiteral("Band_q7r");
+    fill(QStringLiteral("Advanced"));
+    const TierData before = mComponent->state().current();
+    mListener->answer = 7;
+    QVERIFY(!set(band, 2, 0));
+    QVERIFY(mComponent->state().current().sameValues(before));
+    QVERIFY2(mListener->messages.last().contains(QStringLiteral("Channels: 1.")),
+             qPrintable(mListener->messages.last()));
+    mListener->answer = 6;
+    mComponent->SaveForm(QString());
+    QVERIFY(set(band, 2, 0)); // 400 to 470 MHz
+    QVERIFY(set(QStringLiteral("TxFreq_q7r"), QStringLiteral("460")));
+    const QString inside = get(QStringLiteral("RxFreq_q7r"));
+    QVERIFY(inside > QStringLiteral("400") && inside < QStringLiteral("470"));
+    QVERIFY(set(band, 3, 0)); // 450 to 490 MHz
+    QCOMPARE(get(QStringLiteral("TxFreq_q7r")), QStringLiteral("460.000000"));
+    mComponent->RevertFormData(QString());
+    QVERIFY(mComponent->state().current().sameValues(before));
+}
+
+void tst_values::fixedItemsAreOfferedBeforeAnyRecord() {
+    // A field of a form is filled with its list before a navigator has given it a record.
     for (const FieldDefinition &field : mComponent->dictionary().fields()) {
-        if (field.kind != FieldKind::List || get(field.id) == ValueText::undefined())
+        if (field.kind != FieldKind::List || !field.scope.isEmpty() || get(field.id) == ValueText::undefined())
             continue;
         XArrayDB items;
         qint32 scope = 0;
         QVERIFY(mComponent->GetComboItems(field.id, 1, items, scope));
-        const QString values = mComponent->GetIsComboIndex(field.id);
-        QVERIFY2(values.isEmpty() || values.count(u'|') == items.UpperBound(1), qPrintable(field.id));
-        // A field of a form is filled with its list before a navigator has given it a record.
         const qint32 last = items.UpperBound(1);
         QVERIFY(mComponent->GetComboItems(field.id, 0, items, scope));
-        QVERIFY2(!field.scope.isEmpty() || items.UpperBound(1) == last, qPrintable(field.id));
+        QVERIFY2(items.UpperBound(1) == last, qPrintable(field.id));
     }
 }
 

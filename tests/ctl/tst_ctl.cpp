@@ -1,11 +1,11 @@
+#include "tool_run.h"
+
 #include <QDir>
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
+
+using namespace ToolRun;
 
 // The real program: what it prints, what it leaves in files, how it ends.
 class tst_ctl : public QObject {
@@ -13,7 +13,7 @@ class tst_ctl : public QObject {
 
   private Q_SLOTS:
     void init();
-    void cleanup() { QDir::setCurrent(QDir::rootPath()); }
+    void cleanup() { mFolder.reset(); }
     void exitCode_data();
     void exitCode();
     void valuesGoInAndComeOut_data();
@@ -26,36 +26,13 @@ class tst_ctl : public QObject {
     void questionCountsAsNo();
     void everyQueryHasJson_data();
     void everyQueryHasJson();
-    void radioCommandsCarryAValueThroughTheRadio();
 
   private:
-    struct Outcome {
-        int code = -1;
-        QString out;
-        QString err;
-    };
-    static Outcome run(const QStringList &words) {
-        QProcess process;
-        process.start(qEnvironmentVariable("KX4600_BIN") + QStringLiteral("/kx4600ctl"), words);
-        if (!process.waitForFinished(60000))
-            return {};
-        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -2,
-                QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
-    }
-    static Outcome run(const QString &line) { return run(line.split(u' ', Qt::SkipEmptyParts)); }
-    static QByteArray contentOf(const QString &name) {
-        QFile file(name);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-    std::unique_ptr<QTemporaryDir> mFolder;
+    std::unique_ptr<ToolFolder> mFolder;
 };
 
 void tst_ctl::init() {
-    mFolder = std::make_unique<QTemporaryDir>();
-    QDir::setCurrent(mFolder->path());
-    qputenv("XDG_STATE_HOME", QFile::encodeName(mFolder->filePath(QStringLiteral("state"))));
-    qputenv("XDG_DATA_HOME", QFile::encodeName(mFolder->filePath(QStringLiteral("data"))));
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(mFolder->filePath(QStringLiteral("config"))));
+    mFolder = std::make_unique<ToolFolder>();
     QCOMPARE(run(QStringLiteral("new -o a.k4p")).code, 0);
 }
 
@@ -64,6 +41,7 @@ void tst_ctl::exitCode_data() {
     QTest::addColumn<int>("code");
     QTest::newRow("no command") << "" << 2;
     QTest::newRow("help") << "--help" << 0;
+    QTest::newRow("help of a command") << "export --help" << 0;
     QTest::newRow("unknown command") << "frobnicate" << 2;
     QTest::newRow("unknown option") << "info a.k4p --fast" << 2;
     QTest::newRow("option without its value") << "new -o" << 2;
@@ -87,6 +65,10 @@ void tst_ctl::exitCode_data() {
     QTest::newRow("field of the radio itself") << "set a.k4p SerialNumber=12345678" << 1;
     QTest::newRow("last record") << "delete a.k4p ChannelID_q7r(1)" << 1;
     QTest::newRow("unknown guide") << "add a.k4p Channels" << 2;
+    QTest::newRow("parent of a record that has none") << "delete a.k4p ChannelID_q7r(1.1)" << 2;
+    QTest::newRow("table without its guide") << "export a.k4p" << 2;
+    QTest::newRow("table of an unknown guide") << "export a.k4p --record Channels" << 2;
+    QTest::newRow("table that is not there") << "import a.k4p --record ChannelID_q7r missing.csv" << 3;
     QTest::newRow("no difference") << "diff a.k4p a.k4p" << 0;
     QTest::newRow("port missing") << "interrogate" << 2;
     QTest::newRow("port that does not exist") << "interrogate --port /dev/no-such-port" << 3;
@@ -195,10 +177,10 @@ void tst_ctl::differencesNameFormRecordAndLabel() {
 void tst_ctl::checkNamesWhatIsWrong() {
     const Outcome sound = run(QStringLiteral("check a.k4p"));
     QVERIFY2(sound.code == 0, qPrintable(sound.out));
-    QCOMPARE(run(QStringLiteral("set a.k4p Band_q7r=#2")).code, 0);
+    QCOMPARE(run(QStringLiteral("set a.k4p ChannelBandwidth_q7r(1)=#250")).code, 0);
     const Outcome outcome = run(QStringLiteral("check a.k4p"));
     QCOMPARE(outcome.code, 1);
-    QVERIFY2(outcome.out.contains(QStringLiteral("Channels 1: Rx Frequency")), qPrintable(outcome.out));
+    QVERIFY2(outcome.out.contains(QStringLiteral("Channels 1: Bandwidth")), qPrintable(outcome.out));
 }
 
 void tst_ctl::questionCountsAsNo() {
@@ -213,7 +195,7 @@ void tst_ctl::questionCountsAsNo() {
 void tst_ctl::everyQueryHasJson_data() {
     QTest::addColumn<QString>("line");
     for (const char *line : {"info a.k4p", "check a.k4p", "get a.k4p EconomyTimer", "diff a.k4p a.k4p", "fields",
-                             "forms", "ports", "restore-points"})
+                             "export a.k4p --record ChannelID_q7r", "forms", "ports", "restore-points"})
         QTest::newRow(line) << QString::fromLatin1(line);
 }
 
@@ -224,32 +206,6 @@ void tst_ctl::everyQueryHasJson() {
     QJsonParseError error{};
     QJsonDocument::fromJson(outcome.out.toUtf8(), &error);
     QVERIFY2(error.error == QJsonParseError::NoError, qPrintable(error.errorString()));
-}
-
-void tst_ctl::radioCommandsCarryAValueThroughTheRadio() {
-    QProcess radio;
-    radio.start(qEnvironmentVariable("KX4600_BIN") + QStringLiteral("/kx4600sim"),
-                {QStringLiteral("--link"), QStringLiteral("radio"), QStringLiteral("--tier"), QStringLiteral("Basic"),
-                 QStringLiteral("--serial"), QStringLiteral("12345678"), QStringLiteral("--full-speed")});
-    QVERIFY(radio.waitForReadyRead(10000));
-    const QString port = QStringLiteral(" --port ") + QDir::current().filePath(QStringLiteral("radio"));
-    const Outcome identity = run(QStringLiteral("interrogate") + port);
-    QVERIFY2(identity.code == 0 && identity.out.contains(QStringLiteral("12345678")), qPrintable(identity.err));
-    QCOMPARE(run(QStringLiteral("read -o r.k4p") + port).code, 0);
-    QCOMPARE(run(QStringLiteral("get r.k4p SerialNumber")).out, QStringLiteral("12345678\n"));
-    QCOMPARE(run(QStringLiteral("set r.k4p EconomyTimer=99 RxFreq_q7r(1)=150.5")).code, 0);
-    const Outcome programmed = run(QStringLiteral("program r.k4p") + port);
-    QVERIFY2(programmed.code == 0, qPrintable(programmed.err));
-    QVERIFY(programmed.err.contains(QStringLiteral("The radio has the new content, verified.")));
-    QCOMPARE(run(QStringLiteral("read -o s.k4p") + port).code, 0);
-    QCOMPARE(run(QStringLiteral("diff r.k4p s.k4p")).code, 0);
-    QVERIFY(run(QStringLiteral("restore-points 12345678")).out.contains(QStringLiteral(".k4p")));
-    QCOMPARE(run(QStringLiteral("new --tier Advanced -o wrong.k4p")).code, 0);
-    const Outcome wrong = run(QStringLiteral("program wrong.k4p") + port);
-    QCOMPARE(wrong.code, 3);
-    QVERIFY(wrong.err.contains(QStringLiteral("Nothing was sent to the radio.")));
-    radio.terminate();
-    radio.waitForFinished();
 }
 
 QTEST_GUILESS_MAIN(tst_ctl)

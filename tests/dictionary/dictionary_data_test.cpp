@@ -1,4 +1,5 @@
 #include "dictionary_loader.h"
+#include "form_catalogue.h"
 #include "run_time_error.h"
 
 #include <QRegularExpression>
@@ -11,7 +12,6 @@ class DictionaryDataTest : public QObject {
 
   private Q_SLOTS:
     void initTestCase();
-    void everyFieldLoads();
     void helpSaysMoreThanTheLabel();
     void noTwoHelpTextsAreEqual();
     void gridsAndPositionsResolve();
@@ -19,8 +19,15 @@ class DictionaryDataTest : public QObject {
     void everyStoredFieldOfATierHasItsPlaceInTheRadio();
     void recordsOfAllTiersLieApartInTheImage();
     void defaultsBelongToEachTier();
+    void formsShowFieldsOfTheirKind();
+    void accessAndVersionLevelsAreUsed();
 
   private:
+    void checkControl(const QString &form, const ControlDefinition &control);
+    void checkColumns(const QString &form, const ControlDefinition &grid);
+    void checkShown(const QString &form, const QString &id, const QString &as);
+
+    QSet<QString> mShown; // UIIDs that stand on a form
     std::unique_ptr<const Dictionary> mDictionary;
 };
 
@@ -47,11 +54,6 @@ void DictionaryDataTest::initTestCase() {
     } catch (const RunTimeError &error) {
         QFAIL(qPrintable(error.Description));
     }
-}
-
-void DictionaryDataTest::everyFieldLoads() {
-    QVERIFY(mDictionary->fields().size() > 150);
-    QVERIFY(mDictionary->find(QStringLiteral("RxFreq_q7r")) != nullptr);
 }
 
 void DictionaryDataTest::helpSaysMoreThanTheLabel() {
@@ -141,6 +143,79 @@ void DictionaryDataTest::defaultsBelongToEachTier() {
             QVERIFY2(fits, qPrintable(field.id + QStringLiteral(": the default is not an item of every tier")));
         }
     }
+}
+
+// A control or a grid's column must be of the sort that its field's values are made for.
+void DictionaryDataTest::checkShown(const QString &form, const QString &id, const QString &as) {
+    struct Fit {
+        QLatin1StringView as;
+        std::vector<FieldKind> kinds;
+    };
+    static const Fit kFits[] = {
+        {QLatin1StringView("fldTextField"),
+         {FieldKind::Number, FieldKind::Text, FieldKind::Derived, FieldKind::RecordNumber}},
+        {QLatin1StringView("fldComboField"), {FieldKind::List}},
+        {QLatin1StringView("fldCheckboxField"), {FieldKind::Flag}},
+        {QLatin1StringView("fldIdTrackerField"), {FieldKind::Choice, FieldKind::Reference, FieldKind::Identity}},
+        {QLatin1StringView("Text"), {FieldKind::Number, FieldKind::Text, FieldKind::Derived, FieldKind::RecordNumber}},
+        {QLatin1StringView("Combo"), {FieldKind::List}},
+        {QLatin1StringView("ID Tracker"), {FieldKind::Choice, FieldKind::Reference, FieldKind::Identity}},
+    };
+    const FieldDefinition *field = mDictionary->find(id);
+    QVERIFY2(field != nullptr, qPrintable(form + u' ' + id));
+    const auto *fit = std::ranges::find(kFits, as, &Fit::as);
+    QVERIFY2(fit != std::end(kFits), qPrintable(as));
+    QVERIFY2(std::ranges::count(fit->kinds, field->kind) == 1, qPrintable(id + u' ' + as));
+    QVERIFY2(field->form == form || field->alsoOn.contains(form), qPrintable(form + u' ' + id));
+    mShown.insert(id);
+}
+
+void DictionaryDataTest::checkColumns(const QString &form, const ControlDefinition &grid) {
+    constexpr qsizetype kParts = 5; // number format, UIID, width, type, locked
+    const QStringList parts = grid.property(QStringLiteral("Fields")).toString().split(u'|');
+    QVERIFY2(mDictionary->structureOf(grid.id()).has_value(), qPrintable(grid.id()));
+    for (qsizetype first = 0; first + kParts <= parts.size(); first += kParts) {
+        const QString id = parts[first + 1];
+        checkShown(form, id, parts[first + 3].trimmed());
+        QCOMPARE(mDictionary->structureOf(id), mDictionary->structureOf(grid.id()));
+        const bool isFrequency = mDictionary->find(id)->decimals == FieldDefinition::kFrequencyDecimals;
+        QCOMPARE(parts[first].trimmed(), isFrequency ? QStringLiteral("000.000000") : QString());
+    }
+}
+
+void DictionaryDataTest::checkControl(const QString &form, const ControlDefinition &control) {
+    if (control.typeName == u"fldGridField")
+        checkColumns(form, control);
+    else if (control.typeName == u"fldPageNavigator")
+        QVERIFY2(mDictionary->structureOf(control.property(QStringLiteral("GuideUIID")).toString()).has_value(),
+                 qPrintable(form + u' ' + control.name));
+    else if (control.typeName.endsWith(u"Field"))
+        checkShown(form, control.id(), control.typeName);
+}
+
+void DictionaryDataTest::formsShowFieldsOfTheirKind() {
+    FormCatalogue forms;
+    for (const QString &name : forms.names()) {
+        const FormDefinition &form = forms.form(name);
+        for (const PlacedControl &placed : form.placedControls())
+            checkControl(form.name, *placed.control);
+    }
+    for (const FieldDefinition &field : mDictionary->fields())
+        QVERIFY2(field.hidden || mShown.contains(field.id), qPrintable(field.id + QStringLiteral(" is on no form")));
+}
+
+void DictionaryDataTest::accessAndVersionLevelsAreUsed() {
+    QHash<qint32, int> byAccess;
+    QSet<QString> formsOfNewerFields;
+    int newer = 0;
+    for (const FieldDefinition &field : mDictionary->fields()) {
+        ++byAccess[field.access];
+        newer += field.level == 2 ? 1 : 0;
+        if (field.level == 2)
+            formsOfNewerFields.insert(field.form);
+    }
+    QVERIFY(byAccess[20] >= 15 && byAccess[80] >= 25 && byAccess[40] > 0 && byAccess[60] > 0);
+    QVERIFY(newer >= 20 && formsOfNewerFields.size() >= 5);
 }
 
 QTEST_GUILESS_MAIN(DictionaryDataTest)

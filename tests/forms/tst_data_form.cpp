@@ -67,6 +67,7 @@ class DataFormTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("setTabOrder"))); }
     void noShownControlOverlapsOrIsCut_data();
     void noShownControlOverlapsOrIsCut();
     void formWithAControlThatCannotBeMadeIsRefused_data();
@@ -81,6 +82,7 @@ class DataFormTest : public QObject {
     void closingFromInsideItsOwnFieldIsSafe();
     void terminatedFormHearsNothingMore();
     void outerNavigatorSendsTheInnerOneToItsFirstRecord();
+    void calibrationFormOpensEmpty();
     void invalidFormHoldsTheNavigator();
 };
 
@@ -141,7 +143,7 @@ void DataFormTest::formWithAControlThatCannotBeMadeIsRefused() {
             FormDefinition definition;
             definition.name = name;
             definition.enabler.typeName = QStringLiteral("ctlFormEnabler");
-            definition.controls.push_back({QStringLiteral("a"), QStringLiteral("fldTrigger"), {}, {}});
+            definition.controls.push_back({QStringLiteral("a"), QStringLiteral("fldNothing"), {}, {}});
             DataForm form(definition, bench.services.fieldServices(), nullptr);
             form.Build(ControlRegistry());
         }
@@ -333,6 +335,16 @@ void DataFormTest::outerNavigatorSendsTheInnerOneToItsFirstRecord() {
     QCOMPARE(stored.join(u' '),
              QStringLiteral("SetValue(navInnerStored, 3, 1, true) SetValue(navOuterStored, 5, 1, true) "
                             "SetValue(navInnerStored, 1, 1, true)"));
+}
+
+// The route to it must not end the program.
+void DataFormTest::calibrationFormOpensEmpty() {
+    Bench bench;
+    QVERIFY(bench.factory.CanCreate(QStringLiteral("USRCTLCALSPECIFICATIONS")));
+    DataForm *form = bench.open(QStringLiteral("usrctlCalSpecifications"), {700, 500});
+    QVERIFY(form->isVisible() && form->Iusrfrm_Controls().empty());
+    QCOMPARE(form->TypeName(), QStringLiteral("usrctlCalSpecifications"));
+    QVERIFY(form->Iusrfrm_Enabler()->Ienabler_ValidateForm(false));
 }
 
 void DataFormTest::invalidFormHoldsTheNavigator() {

@@ -1,6 +1,6 @@
+#include "changed_data.h"
 #include "default_image.h"
 #include "dictionary_loader.h"
-#include "field_cell.h"
 #include "image_cell.h"
 #include "image_decoder.h"
 #include "image_encoder.h"
@@ -36,7 +36,6 @@ class ImageCodecTest : public QObject {
         radio.serialNumber = 12345678;
         return radio;
     }
-    TierData changedData(TierIndex tier, int level) const;
     static void addTierRows();
     qsizetype placeOf(const char *field, RecordAddress record, TierIndex tier) const {
         const FieldDefinition &definition = *mDictionary->find(QString::fromLatin1(field));
@@ -46,54 +45,12 @@ class ImageCodecTest : public QObject {
     std::unique_ptr<const Dictionary> mDictionary;
 };
 
-namespace {
-// Another valid value than the present one, where the field's definition alone can tell one.
-StoredValue otherValue(const FieldDefinition &field, const StoredValue &present, int level) {
-    switch (field.kind) {
-    case FieldKind::Flag:
-        return 1 - present.number();
-    case FieldKind::Number:
-        if (field.limitsBy || !field.limits.rasters.empty())
-            return present;
-        return present.number() == field.limits.maximum ? field.limits.minimum : field.limits.maximum;
-    case FieldKind::List:
-    case FieldKind::Choice:
-        for (const ListItem &item : field.items)
-            if (item.value != present.number() && item.level <= level)
-                return item.value;
-        return present;
-    case FieldKind::Text:
-        return QString(field.length, field.mask.isEmpty() ? QLatin1Char('x') : field.mask.front());
-    default:
-        return present;
-    }
-}
-} // namespace
-
 void ImageCodecTest::addTierRows() {
     QTest::addColumn<int>("tier");
     QTest::addColumn<int>("level");
     for (int tier = 0; tier < 3; ++tier)
         for (int level = 1; level <= 2; ++level)
             QTest::addRow("tier %d version %d", tier, level) << tier << level;
-}
-
-// Records added to every structure that takes some, then every field of every record changed.
-TierData ImageCodecTest::changedData(TierIndex tier, int level) const {
-    TierData data(*mDictionary, tier);
-    data.setVersionLevel(level);
-    RecordEditor editor(data);
-    for (const RecordStructure &structure : mDictionary->structures())
-        for (int added = 0; added < 3; ++added) {
-            const qint32 parent = structure.isScoped() ? 1 : 0;
-            if (!structure.isRadio() && (parent == 0 || data.recordCount(structure.parent) > 0))
-                editor.insertRecord(structure.index, {parent, data.recordCount(structure.index, parent) + 1});
-        }
-    for (const FieldDefinition &field : mDictionary->fields())
-        if (FieldCell::isPresent(field, tier, level))
-            for (const RecordAddress &record : data.records(field.structure))
-                data.setValue(field.index, record, otherValue(field, data.value(field.index, record), level));
-    return data;
 }
 
 void ImageCodecTest::factoryImageIsTheImageOfNewData_data() { addTierRows(); }
@@ -111,7 +68,9 @@ void ImageCodecTest::changedDataComesBackEqual_data() { addTierRows(); }
 void ImageCodecTest::changedDataComesBackEqual() {
     QFETCH(int, tier);
     QFETCH(int, level);
-    TierData data = changedData(TierIndex(tier), level);
+    const ChangedData changed(*mDictionary, TierIndex(tier), level);
+    QCOMPARE(changed.unchanged().join(u' '), QString());
+    TierData data = changed.data();
     const QByteArray image = ImageEncoder(data, level).encode();
     ImageDecoder decoder(*mDictionary);
     const std::optional<TierData> decoded = decoder.decode(identity(TierIndex(tier), level), image);
@@ -125,7 +84,7 @@ void ImageCodecTest::changedDataComesBackEqual() {
 }
 
 void ImageCodecTest::reservedBitsAreWrittenBackAsRead() {
-    const TierData data = changedData(TierIndex(2), 2);
+    const TierData data = ChangedData(*mDictionary, TierIndex(2), 2).data();
     ImageEncoder encoder(data, 2);
     const QByteArray used = encoder.usedBits();
     const QByteArray plain = encoder.encode();
@@ -145,7 +104,7 @@ void ImageCodecTest::reservedBitsAreWrittenBackAsRead() {
 // and back.
 void ImageCodecTest::everyImageByteDecodesOrIsRefusedWithoutHarm() {
     const TierIndex tier(0);
-    const TierData data = changedData(tier, 2);
+    const TierData data = ChangedData(*mDictionary, tier, 2).data();
     ImageEncoder encoder(data, 2);
     const QByteArray image = encoder.encode();
     int refused = 0;

@@ -4,7 +4,6 @@
 #include "grid_fill.h"
 #include "message_style.h"
 #include "navigator_buttons.h"
-#include "record_text.h"
 
 #include <QTest>
 
@@ -83,8 +82,6 @@ class tst_grid_clipboard : public QObject {
     void selectedRowsAreOverwrittenOnRequest_data();
     void selectedRowsAreOverwrittenOnRequest();
     void aFormClosedByAPasteLeavesTheEchoOn();
-    void selectAllSelectsEveryRow();
-    void lineEndsBecomeCrLf();
     void fillDownWritesThroughTheComponent();
     void fillDownStopsAtTheFirstRefusal();
     void fillDownNeedsABlockAndAWritableColumn();
@@ -274,18 +271,6 @@ void tst_grid_clipboard::aFormClosedByAPasteLeavesTheEchoOn() {
     bench.grid.on[QStringLiteral("ImportRecordByPaste")] = [&](const FieldEvent &) { bench.grid.terminated = true; };
     bench.clipboard.mnuPaste_Click();
     QCOMPARE(bench.grid.log.take().mid(3), lines({"SetProviderUpdateUIOnFieldChange(true)", "EndBatchUpdate()"}));
-}
-
-void tst_grid_clipboard::selectAllSelectsEveryRow() {
-    Bench bench;
-    bench.grid.selected = {1};
-    bench.clipboard.Ifield_SelectAll();
-    QCOMPARE(bench.grid.selected, (std::vector<qint32>{0, 1, 2}));
-    QCOMPARE(bench.grid.log.take().mid(0, 3), lines({"SelStartCol(0)", "SelEndCol(3)", "Unselect()"}));
-}
-
-void tst_grid_clipboard::lineEndsBecomeCrLf() {
-    QCOMPARE(RecordText::withCrLf(QStringLiteral("a\nb\r\nc\rd\n\n")), QStringLiteral("a\r\nb\r\nc\rd\r\n\r\n"));
 }
 
 void tst_grid_clipboard::fillDownWritesThroughTheComponent() {

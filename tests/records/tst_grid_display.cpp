@@ -368,7 +368,7 @@ void tst_grid_display::heads() {
     Bench bench;
     bench.bench.component.when(QStringLiteral("GetUIWidth"), QStringLiteral("Net")).answers(8);
     bench.fill({});
-    QCOMPARE(bench.grid.Igrid_GetHeader(), QStringLiteral("      Net Freq Power"));
+    QCOMPARE(bench.grid.Igrid_GetHeader().join(u'|'), QStringLiteral("      Net| Freq| Power"));
     QCOMPARE(bench.table().model()->headerData(1, Qt::Horizontal).toString(), QStringLiteral("Freq"));
 }
 

@@ -66,7 +66,6 @@ class tst_grid_input : public QObject {
     void aCellStaysInItsWindow();
     void recordsAreDroppedAsText_data();
     void recordsAreDroppedAsText();
-    void draggedRowsReadAsCopiedOnes();
 };
 
 void tst_grid_input::tabGoesFromCellToCell_data() {
@@ -373,15 +372,6 @@ void tst_grid_input::recordsAreDroppedAsText() {
     QCOMPARE(bench.grid.log.take(),
              taken ? lines({"raise ImportRecordByDrop(Nr|Name|Kind|Net)", "raise ImportRecordByDrop(Nr|Name|Kind|Net)"})
                    : QStringList());
-}
-
-void tst_grid_input::draggedRowsReadAsCopiedOnes() {
-    Bench bench;
-    bench.grid.selected = {1, 2};
-    const auto data = bench.operations.recordDrag.TDBGrid1_OLEStartDrag();
-    bench.operations.clipboard.mnuCopy_Click();
-    QCOMPARE(data->text(), bench.grid.services.clipboard.Text());
-    QVERIFY(data->text().startsWith(QStringLiteral("No.\tName\tKind\tNetwork\r\n20\t")));
 }
 
 QTEST_MAIN(tst_grid_input)

@@ -3,6 +3,7 @@
 #include "call_log.h"
 #include "ienabler.h"
 #include "iusrfrm.h"
+#include "report_lines.h"
 #include "shell_ports.h"
 
 #include <QWidget>
@@ -33,7 +34,11 @@ class FakeEnabler final : public Ienabler {
     std::shared_ptr<clsControlItem> Ienabler_GetActiveControl() override { return nullptr; }
     qint32 Ienabler_HelpContextID() override { return 77; }
     void Ienabler_InitialiseFields(qint32 lngRecordNr) override { add("InitialiseFields", {lngRecordNr}); }
-    void Ienabler_PrintForm() override { add("PrintForm"); }
+    bool Ienabler_PrintForm(Iusrfrm & /*form*/, const QString &title, ReportLines &printDialog,
+                            bool printAll) override {
+        add("PrintForm", {title, printAll});
+        return printDialog.PrintLine(title, true, false, false);
+    }
     qint32 Ienabler_TextAlignment() override { return 0; }
     void Ienabler_UIIDNotFound(const QString &UIID) override { add("UIIDNotFound", {UIID}); }
     void Ienabler_UpdateUIFieldByUIID(const QString &UIID, qint32 RecordNr, const QVariant &Value) override {

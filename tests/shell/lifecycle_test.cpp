@@ -62,7 +62,7 @@ void LifecycleTest::startUpBringsTheFirstTierUpInThePrescribedOrder() {
                          QStringLiteral("GetProgramAsAvailable()"),
                          QStringLiteral("ChangeTier(A)"),
                          QStringLiteral("GetRadioModel()"),
-                         QStringLiteral("SaveSetting(Helpfile, kx4kp_en)"),
+                         QStringLiteral("SaveSetting(Helpfile, kx4kp_en.chm)"),
                          QStringLiteral("GetTreeFilterTabs()"),
                          QStringLiteral("RefreshFormList()"),
                          QStringLiteral("SetCurrentFormName(Specifications)"),

@@ -14,6 +14,7 @@ class FakeGrid final : public FakeField, public Igrid {
     QString uiidList;
     bool dynamic = true;
     XArrayDB array;
+    QStringList heads;
 
     QString Ifield_GetTypeName() const override { return cellType; }
 
@@ -21,7 +22,7 @@ class FakeGrid final : public FakeField, public Igrid {
     void Igrid_SetColumnEnabled(const QString &UIID) override { log("SetColumnEnabled", {UIID}); }
     void Igrid_AppendRow(const XArrayDB &NewRowArray) override;
     void Igrid_InsertRow(const XArrayDB &NewRowArray, qint32 lngRowNumber) override;
-    QString Igrid_GetHeader() const override { return {}; }
+    QStringList Igrid_GetHeader() const override { return heads; }
     XArrayDB &Igrid_GetArray() override { return array; }
     void Igrid_SetColumns() override { log("SetColumns"); }
     void Igrid_Rebind(bool Dynamic) override { log("Rebind", {Dynamic}); }

@@ -9,3 +9,7 @@ void TestShell::StartDrag(const QString &id, const QString &typeName) {
 }
 
 void TestShell::FinishedDrag() { told << QStringLiteral("FinishedDrag()"); }
+
+void TestShell::SilentMode(bool silent) {
+    told << QStringLiteral("SilentMode(%1)").arg(silent ? QStringLiteral("true") : QStringLiteral("false"));
+}

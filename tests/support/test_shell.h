@@ -12,7 +12,7 @@ class TestShell final : public FormShell {
     QString formTypeName = QStringLiteral("usrctlTest");
     QString formTitle = QStringLiteral("Test");
     QWidget *mainWindow = nullptr;
-    QStringList told; // ShowWhatsThisHelp, StartDrag and FinishedDrag, a line a call
+    QStringList told; // ShowWhatsThisHelp, StartDrag, FinishedDrag and SilentMode, a line a call
 
     [[nodiscard]] qint32 TextAlignment() const override { return textAlignment; }
     [[nodiscard]] bool ChangingForms() const override { return changingForms; }
@@ -22,4 +22,5 @@ class TestShell final : public FormShell {
     void ShowWhatsThisHelp(qint32 HelpContextID) override;
     void StartDrag(const QString &id, const QString &typeName) override;
     void FinishedDrag() override;
+    void SilentMode(bool silent) override;
 };

@@ -31,6 +31,8 @@ class HostControl {
     [[nodiscard]] virtual QString TypeName() const = 0;
     // The control as a field; null where it is none (SSTab, Frame, fldSubFormCallUp, fldTrigger).
     [[nodiscard]] virtual Ifield *object() const = 0;
+    // What a plain frame is headed with, translated; "" for every other control: a field knows its own.
+    [[nodiscard]] virtual QString Caption() const { return {}; }
     // The control that holds this one; null when it stands on the form itself.
     [[nodiscard]] virtual HostControl *Container() const = 0;
     [[nodiscard]] virtual qint32 TabIndex() const = 0;

@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class Iusrfrm;
+class ReportLines;
 class clsControlItem;
 
 // What a form's enabler offers to the main window, and, through clsControlItem, to the fields.
@@ -27,7 +29,9 @@ class Ienabler {
     virtual qint32 Ienabler_HelpContextID() = 0;
     // Fills every field. -1: each navigator goes to its stored position; else all go to this record.
     virtual void Ienabler_InitialiseFields(qint32 lngRecordNr) = 0;
-    virtual void Ienabler_PrintForm() = 0;
+    // Prints the form under its title; printAll: every record of its first navigator. False after a failure that ended
+    // the report and has been told.
+    virtual bool Ienabler_PrintForm(Iusrfrm &form, const QString &title, ReportLines &printDialog, bool printAll) = 0;
     virtual qint32 Ienabler_TextAlignment() = 0;
     virtual void Ienabler_UIIDNotFound(const QString &UIID) = 0;
     virtual void Ienabler_UpdateUIFieldByUIID(const QString &UIID, qint32 RecordNr, const QVariant &Value) = 0;

@@ -47,6 +47,8 @@ class FormShell {
     // or the caption of a frame.
     virtual void StartDrag(const QString &id, const QString &typeName) = 0;
     virtual void FinishedDrag() = 0;
+    // While true the component's messages are answered with 6 (yes) and not shown.
+    virtual void SilentMode(bool silent) = 0;
 };
 
 // What every field and form is made with. All references outlive it.

@@ -23,6 +23,12 @@ class Q_DECL_EXPORT Translation {
     // Placeholders only, nothing translated.
     [[nodiscard]] static QString Fill(const QString &text, const QStringList &parameters);
 
+    // A parameter that is itself a text with placeholders, so that each of its parts is translated: the lines of a
+    // list, a number with its unit. Its own parameters are plain texts or pieces of plain texts.
+    [[nodiscard]] static QString Piece(const QString &text, const QStringList &parameters = {});
+    // Several pieces as one parameter; separator stands between them, untranslated.
+    [[nodiscard]] static QString Pieces(const QStringList &pieces, const QString &separator);
+
   private:
     TranslationDictionary mDictionary;
 };

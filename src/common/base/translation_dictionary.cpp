@@ -1,6 +1,8 @@
 #include "translation_dictionary.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 QString unescaped(QStringView text) {
@@ -17,6 +19,13 @@ QString unescaped(QStringView text) {
     return result;
 }
 } // namespace
+
+QString TranslationDictionary::StandardFile() {
+    const QString name = QStringLiteral("KX4600.mld");
+    const QString folder = QCoreApplication::applicationDirPath();
+    const QString beside = folder + QStringLiteral("/") + name;
+    return QFileInfo::exists(beside) ? beside : folder + QStringLiteral("/../share/kx4600/") + name;
+}
 
 void TranslationDictionary::Load(const QString &fileName) {
     QFile file(fileName);

@@ -9,6 +9,9 @@
 // text, a tab, and its translation, with \n, \t and \\ escaped. Empty lines and lines without a tab are passed over.
 class Q_DECL_EXPORT TranslationDictionary {
   public:
+    // KX4600.mld in the program's folder, else in ../share/kx4600 beside it.
+    [[nodiscard]] static QString StandardFile();
+
     // A missing or unreadable file leaves the dictionary empty; it counts as open all the same.
     void Load(const QString &fileName);
     // For tests and for tables that do not come from a file.

@@ -25,6 +25,9 @@ const std::array kCheckboxField{whole(u"Value"),           text(u"Caption", u"Fi
 const std::array kIdTrackerField{
     text(u"Caption", u"Field"),       text(u"ID", u"Undefined"), text(u"List0"),
     factor(u"LabelWidthFactor", 0.6), flag(u"Enabled", true),    whole(u"NavigatorStream")};
+const std::array kSliderField{text(u"Caption", u"Field"),       text(u"ID", u"Undefined"), whole(u"NavigatorStream"),
+                              factor(u"LabelWidthFactor", 0.2), whole(u"Value"),           whole(u"RecordNumber"),
+                              factor(u"SafetyMargin", 1.0),     flag(u"Visible", true),    flag(u"Enabled", false)};
 const std::array kFrame{flag(u"Enabled", true),          text(u"Font"),
                         text(u"Caption", u"Field"),      whole(u"WhatsThisHelpID"),
                         text(u"ID", u"Undefined"),       flag(u"HideThisFrame", false),
@@ -53,6 +56,7 @@ const std::array kPageNavigator{whole(u"NavigatorStream"),    text(u"GridID"),
                                 flag(u"Enabled", true)};
 const std::array kSubFormCallUp{text(u"SubFormControlName"), text(u"SubFormDescription"), whole(u"SubFormRecordNr"),
                                 text(u"Caption", u"Details")};
+const std::array kTrigger{text(u"Caption", u"Execute"), text(u"ID", u"Undefined")};
 const std::array kEnabler{text(u"Caption", u"Frame1"), whole(u"HelpID")};
 
 const std::array kClasses{
@@ -60,15 +64,17 @@ const std::array kClasses{
     ControlClass{QStringLiteral("fldComboField"), false, kComboField},
     ControlClass{QStringLiteral("fldCheckboxField"), false, kCheckboxField},
     ControlClass{QStringLiteral("fldIdTrackerField"), false, kIdTrackerField},
+    ControlClass{QStringLiteral("fldSliderField"), false, kSliderField},
     ControlClass{QStringLiteral("fldFrame"), true, kFrame},
     ControlClass{QStringLiteral("Frame"), true, kPlainFrame},
     ControlClass{QStringLiteral("fldGridField"), false, kGridField},
     ControlClass{QStringLiteral("fldPageNavigator"), false, kPageNavigator},
     ControlClass{QStringLiteral("fldSubFormCallUp"), false, kSubFormCallUp},
+    ControlClass{QStringLiteral("fldTrigger"), false, kTrigger},
     ControlClass{QStringLiteral("SSTab"), true, {}},
     ControlClass{QStringLiteral("ctlFormEnabler"), false, kEnabler},
 };
-constexpr std::size_t kFieldClasses = 4; // the first of kClasses
+constexpr std::size_t kFieldClasses = 5; // the first of kClasses
 } // namespace
 
 const PropertyRule *ControlClass::property(const QString &key) const {

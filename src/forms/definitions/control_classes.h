@@ -28,7 +28,7 @@ namespace ControlClasses {
 // Null for an unknown class. The enabler ("ctlFormEnabler") and the tab control ("SSTab") are classes too, but no
 // controls that a list of controls may hold.
 [[nodiscard]] const ControlClass *find(const QString &name);
-// A class whose controls carry a data model value: text, combo, checkbox and ID tracker fields.
+// A class whose controls carry a data model value: text, combo, checkbox, ID tracker and slider fields.
 [[nodiscard]] bool isField(const QString &name);
 // "fldFrame" and "Frame".
 [[nodiscard]] bool isFrame(const QString &name);

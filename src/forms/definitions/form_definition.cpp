@@ -47,7 +47,10 @@ QString ControlDefinition::caption() const {
 }
 
 double ControlDefinition::labelWidthFactor() const {
-    return properties.value(QStringLiteral("LabelWidthFactor"), 0.6).toDouble();
+    constexpr double kUsual = 0.6;
+    const ControlClass *found = ControlClasses::find(typeName);
+    const QString key = QStringLiteral("LabelWidthFactor");
+    return found != nullptr && found->property(key) != nullptr ? property(key).toDouble() : kUsual;
 }
 
 QString ControlDefinition::id() const {

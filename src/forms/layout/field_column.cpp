@@ -15,6 +15,7 @@ constexpr double kLabelRoom = kLabelMargin + 30; // two pixels lest rounding bre
 constexpr qint32 kCaptionSpacing = 30;           // between broken captions of neighbouring rows
 constexpr double kComfortableWidth = 4800;
 constexpr double kWantedBox = 1700;
+constexpr double kListArrow = 500;    // what a combo keeps for its arrow and its borders
 constexpr double kFarthestBox = 4200; // an editing part further from its label is hard to follow
 constexpr double kNarrowBox = 850;
 constexpr Twips kCallUpWidth{1110};
@@ -62,7 +63,8 @@ double FieldColumn::line() const {
         const double factor = field.labelWidthFactor();
         if (factor == 0.0)
             continue;
-        const double box = isCheckbox(field) || factor == 1.0 ? 0 : kWantedBox * factor / (1 - factor);
+        const double wantedBox = std::max(kWantedBox, mText.widestItem(field).count + kListArrow);
+        const double box = isCheckbox(field) || factor == 1.0 ? 0 : wantedBox * factor / (1 - factor);
         const double comfortable = kComfortableWidth * (isCheckbox(field) ? std::min(factor, 0.6) : factor);
         most = std::min(most, factor * widestWithFollowers(row));
         wanted = std::max(

@@ -60,6 +60,24 @@ void ChangeNotifier::raiseAfterRecords(const Changes &changes) {
     raise(effects, nullptr);
 }
 
+void ChangeNotifier::raiseAfterImport(const Changes &changes) {
+    Changes shown;
+    std::set<StructureIndex> grown;
+    for (const Change &change : changes) {
+        const auto *insert = std::get_if<InsertStep>(&change);
+        if (insert != nullptr && grown.insert(insert->structure).second)
+            shown.push_back(change);
+        const auto *value = std::get_if<ValueStep>(&change);
+        if (value == nullptr)
+            continue;
+        const StructureIndex structure = mState.dictionary.field(value->field).structure;
+        if (value->record.number == mState.positions().position(structure) &&
+            mState.isInScope(structure, value->record))
+            shown.push_back(change);
+    }
+    raiseAfterRecords(shown);
+}
+
 void ChangeNotifier::raise(const Effects &effects, const Origin *origin) {
     const TierData &data = mState.current();
     const auto isShown = [&](const Place &place) {
@@ -68,7 +86,11 @@ void ChangeNotifier::raise(const Effects &effects, const Origin *origin) {
     };
     for (const Place &place : effects.values) {
         const bool isOrigin = origin != nullptr && place.field == origin->field && place.record == origin->record;
-        if (!mState.updateUiOnFieldChange || !isShown(place) || (isOrigin && origin->showsValue))
+        // A grid and a field of one form may both show it: the other one must not keep the old value.
+        const bool shownOnce =
+            mState.dictionary.structure(mState.dictionary.field(place.field).structure).grids.isEmpty();
+        const bool known = isOrigin && origin->showsValue && shownOnce;
+        if (!mState.updateUiOnFieldChange || !isShown(place) || known)
             continue;
         const QString id = mState.dictionary.field(place.field).id;
         const QVariant value = mFields.GetValue(id, place.record.number);

@@ -11,7 +11,7 @@ class ChangeNotifier {
   public:
     ChangeNotifier(ComponentState &state, FieldQueries &fields) : mState(state), mFields(fields) {}
 
-    // The field that the user has just set is left out where it shows the value already.
+    // The field that the user has just set is left out where it shows the value already, and no grid shows it too.
     struct Origin {
         FieldIndex field;
         RecordAddress record;
@@ -20,6 +20,8 @@ class ChangeNotifier {
     void raiseValues(const Changes &changes, const Origin &origin);
     // The enabled states that depend on the number or the content of these structures' records.
     void raiseAfterRecords(const Changes &changes);
+    // After many edits of records at once: what is shown of them, and the grids of other structures that changed.
+    void raiseAfterImport(const Changes &changes);
 
   private:
     struct Place {

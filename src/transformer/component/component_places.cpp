@@ -2,6 +2,7 @@
 
 #include "product_identity.h"
 #include "settings_store.h"
+#include "translation_dictionary.h"
 
 #include <QDir>
 #include <QStandardPaths>
@@ -22,5 +23,6 @@ ComponentPlaces ComponentPlaces::ofUser() {
     ComponentPlaces places = ofTool();
     places.settingsFile = SettingsStore::defaultFileName();
     places.journalFolder = places.stateFolder;
+    places.translationFile = TranslationDictionary::StandardFile();
     return places;
 }

@@ -5,10 +5,11 @@
 // Where a component keeps what outlives it. An empty name switches the thing off.
 struct ComponentPlaces {
     QString settingsFile;
-    QString journalFolder; // one file for each running window
-    QString stateFolder;   // run records and wire traces
-    QString restoreFolder; // restore points, a folder for each radio
-    QString dataFolder;    // what GetDataDirectory answers
+    QString journalFolder;        // one file for each running window
+    QString stateFolder;          // run records and wire traces
+    QString restoreFolder;        // restore points, a folder for each radio
+    QString dataFolder;           // what GetDataDirectory answers
+    QString translationFile = {}; // texts of the other languages, which pasted list items may be in
 
     // The user's folders.
     [[nodiscard]] static ComponentPlaces ofUser();

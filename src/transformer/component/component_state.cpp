@@ -72,3 +72,10 @@ QByteArray ComponentState::storedText() const {
         return {}; // gone or unreadable by now
     }
 }
+
+void ComponentState::tellWriteFailure() {
+    if (journal.takeWriteFailure())
+        events.tell(QStringLiteral("The edit journal in %0:S cannot be written: until you save, your changes are "
+                                   "not protected against a crash. Check that the disk is not full."),
+                    {places.journalFolder});
+}

@@ -32,6 +32,7 @@ class ComponentState final : private JournalBaseSource {
     QString callerVersion; // of the program around the component, without its tag
 
     qint32 accessLevel = 80; // 80, 60, 40 or 20
+    QString focusedField;    // UIID of the field that the focus entered last
     bool updateUiOnFieldChange = true;
     qint32 batchDepth = 0;
     bool loadFailed = false;
@@ -55,6 +56,8 @@ class ComponentState final : private JournalBaseSource {
     // Whether the record is in the present scope, so that its number means something on the boundary.
     [[nodiscard]] bool isInScope(StructureIndex structure, RecordAddress record);
     void tell(const Refusal &refusal);
+    // Says once that the journal cannot be written.
+    void tellWriteFailure();
 
     // The text of a data file of the present data. Raises RunTimeError.
     [[nodiscard]] QByteArray dataFileText(const QString &comment) const;

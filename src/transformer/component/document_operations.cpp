@@ -2,10 +2,11 @@
 
 #include "data_file_reader.h"
 #include "data_file_writer.h"
-#include "field_defaults.h"
 #include "file_problem.h"
+#include "older_version.h"
 #include "sealed_text.h"
 #include "squirt_file.h"
+#include "translation.h"
 #include "whole_file.h"
 
 #include <QFileInfo>
@@ -14,20 +15,6 @@
 
 namespace {
 const QString kLineBreak = QStringLiteral("\n");
-
-// Whether any record of the field differs from its default.
-bool isUsed(const TierData &data, const FieldDefinition &field) {
-    const FieldDefaults defaults(data);
-    for (const RecordAddress record : data.records(field.structure)) {
-        if (data.value(field.index, record) != defaults.defaultOf(field.index, record.parent))
-            return true;
-    }
-    return false;
-}
-
-bool isLostAt(const FieldDefinition &field, qint32 level) {
-    return field.isStored() && field.level > level && field.kind != FieldKind::Identity;
-}
 } // namespace
 
 bool DocumentOperations::mayReplace(const QString &fileName) {
@@ -86,12 +73,12 @@ void DocumentOperations::SaveFile(const QString &fileName, const QString &commen
                            {mState.dictionary.versionName(present), mState.dictionary.versionName(level)});
         return;
     }
-    const QStringList lost = level < present ? lostAt(level) : QStringList();
+    const QStringList lost = level < present ? OlderVersion(mState.current(), level).lostFields() : QStringList();
     if (!lost.isEmpty() &&
         !mState.events.ask(
             QStringLiteral("Database version %0:S has no room for these settings, whose values will not be "
                            "stored: %1:S.%2:SDo you want to continue?"),
-            {mState.dictionary.versionName(level), lost.join(QStringLiteral(", ")), kLineBreak}))
+            {mState.dictionary.versionName(level), Translation::Pieces(lost, QStringLiteral(", ")), kLineBreak}))
         return;
     if (!mayOverwrite(path))
         return;
@@ -125,25 +112,9 @@ void DocumentOperations::write(const DataDocument &document, const QString &path
     mState.fileComment = comment;
 }
 
-QStringList DocumentOperations::lostAt(qint32 level) const {
-    QStringList labels;
-    for (const FieldDefinition &field : mState.dictionary.fields()) {
-        if (isLostAt(field, level) && isUsed(mState.current(), field))
-            labels.append(field.label);
-    }
-    return labels;
-}
-
 DataDocument DocumentOperations::atLevel(qint32 level) const {
     DataDocument older = mState.document;
-    TierData &data = older.data.current();
-    data.setVersionLevel(level);
-    for (const FieldDefinition &field : mState.dictionary.fields()) {
-        if (!isLostAt(field, level))
-            continue;
-        for (const RecordAddress record : data.records(field.structure))
-            data.setValue(field.index, record, FieldDefaults(data).defaultOf(field.index, record.parent));
-    }
+    older.data.replace(OlderVersion(mState.current(), level).reduced());
     return older;
 }
 

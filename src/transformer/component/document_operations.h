@@ -26,8 +26,6 @@ class DocumentOperations {
     [[nodiscard]] bool mayReplace(const QString &fileName);
     [[nodiscard]] bool mayOverwrite(const QString &path);
     [[nodiscard]] QString versionEntry(qint32 index) const;
-    // Labels of the fields whose values an older version has no room for.
-    [[nodiscard]] QStringList lostAt(qint32 level) const;
     [[nodiscard]] DataDocument atLevel(qint32 level) const;
     void write(const DataDocument &document, const QString &path, const QString &comment);
 

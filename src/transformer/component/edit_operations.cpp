@@ -24,8 +24,7 @@ void EditOperations::SetValue(const QString &uiid, const QVariant &value, qint32
         mState.tell(RefusalText::ofValue(*field, *fault));
         return;
     }
-    accept(*field, record, value, std::get<StoredValue>(result));
-    ok = true;
+    ok = accept(*field, record, value, std::get<StoredValue>(result));
 }
 
 // A field whose rule disables it keeps its value and may be given another; what the tier, the version, the access level
@@ -53,9 +52,13 @@ bool EditOperations::mayBeSet(const FieldDefinition &field, RecordAddress record
     return true;
 }
 
-void EditOperations::accept(const FieldDefinition &field, RecordAddress record, const QVariant &given,
+bool EditOperations::accept(const FieldDefinition &field, RecordAddress record, const QVariant &given,
                             const StoredValue &value) {
-    const Changes changes = RecordEditor(mState.current()).setValue(field.index, record, value);
+    const LimitShift shift(mState.current(), field.index, record);
+    if (shift.concerns(value) && !mayShift(field, shift.displaced(value)))
+        return false;
+    Changes changes = RecordEditor(mState.current()).setValue(field.index, record, value);
+    shift.moveInside(mState.current(), changes);
     mState.positions().follow(mState.current(), changes);
     mState.journal.record(mState.tier(), changes);
     const QString shown = FieldReader(mState.current()).shown(field.index, record);
@@ -63,13 +66,36 @@ void EditOperations::accept(const FieldDefinition &field, RecordAddress record, 
     if (changes.empty()) {
         // The control may hold another spelling of the value.
         mNotifier.raiseValues({ValueStep{field.index, record, value, value}}, {field.index, record, showsValue});
-        return;
+        return true;
     }
     mNotifier.raiseValues(changes, {field.index, record, showsValue});
     mState.events.raise([](TransformerEvents &listener) { listener.TransformerEvents_FieldHasChanged(); });
     const QString where = record.number > 0 ? QStringLiteral(" (%1)").arg(record.number) : QString();
     mState.events.lastAction(field.label, QStringLiteral(": %1%2").arg(shown, where));
-    tellWriteFailure();
+    mState.tellWriteFailure();
+    return true;
+}
+
+// Other limits move the values outside them to their defaults.
+bool EditOperations::mayShift(const FieldDefinition &field, const std::vector<LimitShift::Place> &places) {
+    constexpr std::size_t kToldAtMost = 40;
+    if (places.empty())
+        return mState.events.ask(QStringLiteral("%0:S is a fact of the radio. Do you want to change it?"),
+                                 {field.label});
+    QStringList records;
+    for (const LimitShift::Place &place : places) {
+        const StructureIndex structure = mState.dictionary.field(place.field).structure;
+        const QString number = QString::number(mState.current().identityOf(structure, place.record));
+        if (std::size_t(records.size()) < kToldAtMost && !records.contains(number))
+            records.append(number);
+    }
+    if (records.size() == kToldAtMost)
+        records.append(QStringLiteral("..."));
+    const RecordStructure &moved = mState.dictionary.structure(mState.dictionary.field(places.front().field).structure);
+    return mState.events.ask(
+        QStringLiteral("Changing %0:S sets the frequencies that lie outside it to its default. "
+                       "%1:S: %2:S.%3:SDo you want to continue?"),
+        {field.label, moved.navigatorRecords, records.join(QStringLiteral(", ")), QStringLiteral("\n")});
 }
 
 void EditOperations::setPosition(const RecordStructure &structure, const QVariant &value, bool &ok) {
@@ -93,50 +119,4 @@ void EditOperations::setPosition(const RecordStructure &structure, const QVarian
 void EditOperations::SetDataChanged() {
     mState.journal.touchForm();
     mState.events.raise([](TransformerEvents &listener) { listener.TransformerEvents_FieldHasChanged(); });
-}
-
-void EditOperations::tellWriteFailure() {
-    if (mState.journal.takeWriteFailure())
-        mState.events.tell(
-            QStringLiteral("The edit journal in %0:S cannot be written: until you save, your changes are "
-                           "not protected against a crash. Check that the disk is not full."),
-            {mState.places.journalFolder});
-}
-
-void EditOperations::CopyFieldToTier(const QString &uiid, const QString &tierKey) {
-    const FieldDefinition *field = mState.findField(uiid);
-    const std::optional<TierIndex> target = mState.dictionary.tierByKey(tierKey);
-    if (field == nullptr || !target || *target == mState.tier())
-        return;
-    TierData &other = mState.document.data.tier(*target);
-    const RecordStructure &structure = mState.dictionary.structure(field->structure);
-    // A field of a grid stands for its whole column, any other for the current record.
-    const bool wholeColumn = !structure.isRadio() && structure.position.isEmpty();
-    const qint32 shown = mState.positions().position(structure.index);
-    const qint32 from = wholeColumn ? 1 : shown;
-    const qint32 to = wholeColumn ? mFields.GetNumberOfRecords(uiid) : shown;
-    QStringList refused;
-    Changes changes;
-    for (qint32 number = from; number <= to; ++number) {
-        const RecordAddress record = structure.isRadio() ? RecordAddress() : mState.address(structure.index, number);
-        const QString place =
-            record.number == 0 ? field->label : QStringLiteral("%1 (%2)").arg(field->label).arg(number);
-        if (!field->isStored() || field->readOnly || !RuleEvaluator(other).hasField(field->index) ||
-            !other.exists(structure.index, record)) {
-            refused.append(place);
-            continue;
-        }
-        const StoredValue value = mState.current().value(field->index, record);
-        if (ValueValidator(other).check(field->index, record, value)) {
-            refused.append(place);
-            continue;
-        }
-        const Changes made = RecordEditor(other).setValue(field->index, record, value);
-        changes.insert(changes.end(), made.begin(), made.end());
-    }
-    mState.journal.record(*target, changes);
-    if (!refused.isEmpty())
-        mState.events.tell(QStringLiteral("These values have no place in %0:S and were not copied: %1:S."),
-                           {mState.dictionary.tier(*target).caption, refused.join(QStringLiteral(", "))});
-    tellWriteFailure();
 }

@@ -2,6 +2,7 @@
 
 #include "change_notifier.h"
 #include "component_state.h"
+#include "limit_shift.h"
 
 #include <QVariant>
 
@@ -13,13 +14,14 @@ class EditOperations {
 
     void SetValue(const QString &uiid, const QVariant &value, qint32 recordNr, bool &ok);
     void SetDataChanged();
-    void CopyFieldToTier(const QString &uiid, const QString &tierKey);
 
   private:
     void setPosition(const RecordStructure &structure, const QVariant &value, bool &ok);
     [[nodiscard]] bool mayBeSet(const FieldDefinition &field, RecordAddress record);
-    void accept(const FieldDefinition &field, RecordAddress record, const QVariant &given, const StoredValue &value);
-    void tellWriteFailure();
+    // False when the user does not want the consequences.
+    [[nodiscard]] bool accept(const FieldDefinition &field, RecordAddress record, const QVariant &given,
+                              const StoredValue &value);
+    [[nodiscard]] bool mayShift(const FieldDefinition &field, const std::vector<LimitShift::Place> &places);
 
     ComponentState &mState;
     FieldQueries &mFields;

@@ -120,8 +120,10 @@ QVariant FieldQueries::GetValue(const QString &uiid, qint32 recordNr) {
 
 qint32 FieldQueries::GetNumberOfRecords(const QString &uiid) {
     const RecordStructure *structure = mState.findStructure(uiid);
-    if (structure == nullptr || structure->isRadio())
+    if (structure == nullptr)
         return 0;
+    if (structure->isRadio())
+        return 1;
     return mState.current().recordCount(structure->index, mState.address(structure->index, 1).parent);
 }
 
@@ -133,6 +135,7 @@ QStringList FieldQueries::GetDatabaseFieldList() const {
 }
 
 void FieldQueries::FieldGotFocus(const QString &uiid) {
+    mState.focusedField = uiid;
     const FieldDefinition *field = mState.dictionary.find(uiid);
     if (field == nullptr || !field->isNumeric()) {
         mState.events.raise([](TransformerEvents &listener) { listener.TransformerEvents_ClearRange(); });

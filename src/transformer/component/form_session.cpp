@@ -1,9 +1,12 @@
 #include "form_session.h"
 
+#include "translation.h"
+
 #include <algorithm>
 
 namespace {
 constexpr std::size_t kToldAtMost = 10;
+const QString kLineBreak = QStringLiteral("\n");
 
 std::vector<Finding> ofSeverity(const std::vector<Finding> &findings, Finding::Severity severity) {
     std::vector<Finding> result;
@@ -24,15 +27,19 @@ QString formCaption(const Dictionary &dictionary, const FieldDefinition &field) 
     return field.form;
 }
 
-QString place(const TierData &data, const Finding &finding) {
-    const Dictionary &dictionary = data.dictionary();
+QString line(const Dictionary &dictionary, const Finding &finding) {
     const FieldDefinition &field = dictionary.field(finding.field);
-    QString text = formCaption(dictionary, field);
-    if (finding.record.parent > 0)
-        text += QStringLiteral(", record %1.%2").arg(finding.record.parent).arg(finding.record.number);
-    else if (finding.record.number > 0)
-        text += QStringLiteral(", record %1").arg(finding.record.number);
-    return text + QStringLiteral(", ") + field.label;
+    const QString form = formCaption(dictionary, field);
+    const RecordAddress &record = finding.record;
+    if (record.number == 0)
+        return Translation::Pieces(
+            {Translation::Piece(QStringLiteral("%0:S, %1:S: "), {form, field.label}), finding.message.piece()}, {});
+    const QString number = record.parent == 0 ? QString::number(record.number)
+                                              : QStringLiteral("%1.%2").arg(record.parent).arg(record.number);
+    return Translation::Pieces(
+        {Translation::Piece(QStringLiteral("%0:S, record %1:S, %2:S: "), {form, number, field.label}),
+         finding.message.piece()},
+        {});
 }
 } // namespace Findings
 
@@ -44,20 +51,21 @@ void FormSession::RevertFormData(const QString &tierKey) {
     mState.positionsOf(tier).follow(mState.document.data.tier(tier), undone);
 }
 
-QString FormSession::describe(const Finding &finding) const {
-    return Findings::place(mState.current(), finding) + QStringLiteral(": ") + finding.message.text();
-}
-
-void FormSession::tellErrors(const std::vector<Finding> &findings) {
+QString FormSession::listed(const std::vector<Finding> &findings) const {
     QStringList lines;
     for (const Finding &finding : findings) {
         if (std::size_t(lines.size()) < kToldAtMost)
-            lines.append(describe(finding));
+            lines.append(Findings::line(mState.dictionary, finding));
     }
     if (findings.size() > kToldAtMost)
-        lines.append(QStringLiteral("(%1 more)").arg(findings.size() - kToldAtMost));
+        lines.append(
+            Translation::Piece(QStringLiteral("(%0:S more)"), {QString::number(findings.size() - kToldAtMost)}));
+    return Translation::Pieces(lines, kLineBreak);
+}
+
+void FormSession::tellErrors(const std::vector<Finding> &findings) {
     mState.events.tell(QStringLiteral("The data is not complete and consistent:%0:S%1:S"),
-                       {QStringLiteral("\n"), lines.join(u'\n')});
+                       {kLineBreak, listed(findings)});
 }
 
 void FormSession::ValidateForm(const QString &formTypeName, bool &ok) {
@@ -75,13 +83,8 @@ bool FormSession::FinalValidate() {
         tellErrors(errors);
         return false;
     }
-    QStringList warnings;
-    for (const Finding &finding : findings) {
-        if (std::size_t(warnings.size()) < kToldAtMost)
-            warnings.append(describe(finding));
-    }
-    return warnings.isEmpty() ||
+    return findings.empty() ||
            mState.events.ask(
                QStringLiteral("Please look at these settings:%0:S%1:S%2:SDo you want to go on with them?"),
-               {QStringLiteral("\n"), warnings.join(u'\n'), QStringLiteral("\n")});
+               {kLineBreak, listed(findings), kLineBreak});
 }

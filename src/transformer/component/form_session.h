@@ -15,15 +15,16 @@ class FormSession {
     [[nodiscard]] bool FinalValidate();
 
   private:
-    [[nodiscard]] QString describe(const Finding &finding) const;
+    // The lines of the first few, as one parameter of a message.
+    [[nodiscard]] QString listed(const std::vector<Finding> &findings) const;
     void tellErrors(const std::vector<Finding> &findings);
 
     ComponentState &mState;
 };
 
 namespace Findings {
-// "Channels, record 3, Tx Frequency: ..."; English.
-[[nodiscard]] QString place(const TierData &data, const Finding &finding);
+// "Channels, record 3, Tx Frequency: ..." as a parameter of a message.
+[[nodiscard]] QString line(const Dictionary &dictionary, const Finding &finding);
 // The caption of the form that a finding is on, in the tree; its class name where the tree lacks it.
 [[nodiscard]] QString formCaption(const Dictionary &dictionary, const FieldDefinition &field);
 } // namespace Findings

@@ -54,7 +54,8 @@ bool ListQueries::GetComboItems(const QString &uiid, qint32 recordNr, XArrayDB &
     const FieldDefinition *field = mState.findField(uiid);
     if (field == nullptr || (field->kind != FieldKind::List && !field->hasIdItems()))
         return false;
-    fill(itemsOf(*field, recordNr), field->hasIdItems(), array);
+    // A form fills its lists before its navigator has told them their record.
+    fill(recordNr == 0 ? shownItems(*field) : itemsOf(*field, recordNr), field->hasIdItems(), array);
     scope = ItemLists(mState.current()).differsByRecord(field->index) ? kByRecord : 0;
     return true;
 }

@@ -4,11 +4,13 @@
 #include "file_problem.h"
 #include "image_decoder.h"
 #include "image_encoder.h"
+#include "older_version.h"
 #include "radio_report_text.h"
 #include "restore_points.h"
 #include "serial_line.h"
 #include "serial_ports.h"
 #include "settings_store.h"
+#include "translation.h"
 #include "value_text.h"
 #include "wire_trace.h"
 
@@ -55,10 +57,29 @@ RadioReport RadioOperations::run(const std::function<RadioReport(const QString &
 }
 
 void RadioOperations::tellFailure(const RadioReport &report) {
-    QStringList sentences = {RadioReportText::fault(report).filled(), RadioReportText::stage(report.stage),
-                             RadioReportText::outcome(report.outcome)};
+    const RadioText fault = RadioReportText::fault(report);
+    QStringList sentences = {Translation::Piece(fault.prompt, fault.parameters)};
+    if (report.fault == LinkFault::OlderDatabase)
+        sentences += olderDatabaseAdvice(report);
+    sentences += {RadioReportText::stage(report.stage), RadioReportText::outcome(report.outcome)};
     sentences.removeAll(QString());
-    mState.events.tellError(QStringLiteral("%0:S"), {sentences.join(kLineBreak)});
+    mState.events.tellError(QStringLiteral("%0:S"), {Translation::Pieces(sentences, kLineBreak)});
+}
+
+// What an older radio has no room for, and the way out.
+QStringList RadioOperations::olderDatabaseAdvice(const RadioReport &report) const {
+    const QString version = report.details.value(0);
+    const std::optional<qint32> level = mState.dictionary.versionLevelByName(version);
+    const QStringList lost =
+        OlderVersion(mState.current(), level.value_or(mState.current().versionLevel())).lostFields();
+    QStringList sentences;
+    if (!lost.isEmpty())
+        sentences += Translation::Pieces(
+            {QStringLiteral("It has no room for the values of: "), Translation::Pieces(lost, QStringLiteral(", "))},
+            {});
+    sentences +=
+        Translation::Piece(QStringLiteral("Save the data as version %0:S, then program the radio."), {version});
+    return sentences;
 }
 
 void RadioOperations::InterrogateRadio() {

@@ -39,6 +39,7 @@ class RadioOperations final : private RadioProgress, private ProgramContent {
     RadioReport run(const std::function<RadioReport(const QString &device)> &operation, bool staysOpen);
     [[nodiscard]] std::optional<QString> device();
     void tellFailure(const RadioReport &report);
+    [[nodiscard]] QStringList olderDatabaseAdvice(const RadioReport &report) const;
     void settleOpenRun(const RadioReport &report);
     void tellOpenRunEnd(const RunRecord &open, quint32 checksum);
     void settleOwnRun(const RadioReport &report);

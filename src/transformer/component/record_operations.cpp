@@ -1,6 +1,7 @@
 #include "record_operations.h"
 
 #include "field_reader.h"
+#include "new_records.h"
 #include "refusal.h"
 
 #include <algorithm>
@@ -33,7 +34,7 @@ void RecordOperations::AddRecord(const QString &uiid, qint32 &recordNr, bool &ok
         return;
     const qint32 last = mFields.GetNumberOfRecords(uiid);
     const RecordAddress record = mState.address(structure->index, last + 1);
-    const RecordResult result = RecordEditor(mState.current()).insertRecord(structure->index, record);
+    const RecordResult result = NewRecords::insert(mState.current(), structure->index, record);
     ok = finish(*structure, result, QStringLiteral("Added"));
     if (ok)
         recordNr = result.record.number;
@@ -45,8 +46,7 @@ void RecordOperations::InsertRecord(const QString &uiid, qint32 recordNr, bool &
     if (structure == nullptr || structure->isRadio())
         return;
     const RecordAddress record = mState.address(structure->index, recordNr);
-    ok = finish(*structure, RecordEditor(mState.current()).insertRecord(structure->index, record),
-                QStringLiteral("Inserted"));
+    ok = finish(*structure, NewRecords::insert(mState.current(), structure->index, record), QStringLiteral("Inserted"));
     if (ok)
         mGrids.add(structure->guide);
 }
@@ -57,8 +57,7 @@ void RecordOperations::RepeatRecord(const QString &uiid, qint32 recordNr, bool &
     if (structure == nullptr || structure->isRadio())
         return;
     const RecordAddress record = mState.address(structure->index, recordNr);
-    ok = finish(*structure, RecordEditor(mState.current()).copyRecord(structure->index, record),
-                QStringLiteral("Repeated"));
+    ok = finish(*structure, NewRecords::copy(mState.current(), structure->index, record), QStringLiteral("Repeated"));
     if (ok)
         mGrids.add(structure->guide);
 }

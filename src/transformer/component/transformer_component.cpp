@@ -6,13 +6,17 @@
 #include "edit_operations.h"
 #include "field_queries.h"
 #include "form_session.h"
+#include "import_operations.h"
 #include "list_queries.h"
 #include "product_identity.h"
 #include "radio_operations.h"
 #include "record_operations.h"
 #include "recovery_operations.h"
 #include "settings_store.h"
+#include "tier_copy.h"
 #include "tier_operations.h"
+
+#include <QMimeData>
 
 #include <utility>
 
@@ -21,8 +25,9 @@ TransformerComponent::TransformerComponent(const ComponentPlaces &places, std::f
       mSettings(std::make_unique<SettingsStore>(places.settingsFile)), mFields(std::make_unique<FieldQueries>(*mState)),
       mLists(std::make_unique<ListQueries>(*mState, *mFields)),
       mEdits(std::make_unique<EditOperations>(*mState, *mFields)),
-      mRecords(std::make_unique<RecordOperations>(*mState, *mFields)), mForms(std::make_unique<FormSession>(*mState)),
-      mTiers(std::make_unique<TierOperations>(*mState)),
+      mRecords(std::make_unique<RecordOperations>(*mState, *mFields)),
+      mImports(std::make_unique<ImportOperations>(*mState, *mFields, *mSettings)),
+      mForms(std::make_unique<FormSession>(*mState)), mTiers(std::make_unique<TierOperations>(*mState)),
       mDocuments(std::make_unique<DocumentOperations>(*mState, *mTiers)),
       mRecovery(std::make_unique<RecoveryOperations>(*mState, *mDocuments)),
       mRadio(std::make_unique<RadioOperations>(*mState, *mSettings, *mTiers, *mForms)),
@@ -101,7 +106,7 @@ void TransformerComponent::FieldEnterFocusValue(const QString & /*UIID*/, const 
 }
 void TransformerComponent::SetDataChanged() { mEdits->SetDataChanged(); }
 void TransformerComponent::CopyFieldToTier(const QString &UIID, const QString &TierKey) {
-    mEdits->CopyFieldToTier(UIID, TierKey);
+    TierCopy(*mState).copy(UIID, TierKey);
 }
 void TransformerComponent::SetProviderUpdateUIOnFieldChange(bool On) { mState->updateUiOnFieldChange = On; }
 bool TransformerComponent::SetAccessLevel(qint32 Level) {
@@ -136,17 +141,14 @@ void TransformerComponent::EndBatchUpdate() {
     mState->batchDepth = qMax(0, mState->batchDepth - 1);
     mRecords->batchEnded();
 }
-// Rows of text cannot be taken into grids yet; the user is told so.
-bool TransformerComponent::ImportRecordByPaste(const QString & /*GridID*/, const QString & /*UIIDList*/,
+bool TransformerComponent::ImportRecordByPaste(const QString & /*GridID*/, const QString &UIIDList,
                                                QWidget * /*MainWindow*/, const QString & /*Reserved*/,
-                                               const QString & /*SelectedRecordsList*/) {
-    mState->events.tell(QStringLiteral("Rows cannot be pasted into this grid yet. Nothing was changed."));
-    return false;
+                                               const QString &SelectedRecordsList) {
+    return mClipboard && mImports->import(UIIDList, mClipboard(), SelectedRecordsList);
 }
-bool TransformerComponent::ImportRecordByDrop(const QString & /*GridID*/, const QString & /*UIIDList*/,
-                                              const QMimeData * /*Data*/, QWidget * /*MainWindow*/, bool /*Always*/) {
-    mState->events.tell(QStringLiteral("Rows cannot be dropped on this grid yet. Nothing was changed."));
-    return false;
+bool TransformerComponent::ImportRecordByDrop(const QString & /*GridID*/, const QString &UIIDList,
+                                              const QMimeData *Data, QWidget * /*MainWindow*/, bool /*Always*/) {
+    return Data != nullptr && mImports->import(UIIDList, Data->text(), QString());
 }
 
 // Forms

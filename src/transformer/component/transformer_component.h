@@ -12,6 +12,7 @@ class DocumentOperations;
 class EditOperations;
 class FieldQueries;
 class FormSession;
+class ImportOperations;
 class ListQueries;
 class RadioOperations;
 class RecordOperations;
@@ -142,6 +143,7 @@ class TransformerComponent final : public Transformer {
     std::unique_ptr<ListQueries> mLists;
     std::unique_ptr<EditOperations> mEdits;
     std::unique_ptr<RecordOperations> mRecords;
+    std::unique_ptr<ImportOperations> mImports;
     std::unique_ptr<FormSession> mForms;
     std::unique_ptr<TierOperations> mTiers;
     std::unique_ptr<DocumentOperations> mDocuments;

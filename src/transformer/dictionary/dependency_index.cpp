@@ -44,7 +44,6 @@ void DependencyIndex::collectRule(const Rule &rule, FieldIndex dependent) {
 void DependencyIndex::sortUnique(Lists &lists) {
     for (std::vector<FieldIndex> &list : lists) {
         std::ranges::sort(list);
-        const auto [first, last] = std::ranges::unique(list);
-        list.erase(first, last);
+        list.erase(std::unique(list.begin(), list.end()), list.end());
     }
 }

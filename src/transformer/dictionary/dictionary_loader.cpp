@@ -2,6 +2,7 @@
 
 #include "dictionary_checks.h"
 #include "field_parser.h"
+#include "item_list_parser.h"
 #include "run_time_error.h"
 #include "structure_parser.h"
 
@@ -41,13 +42,12 @@ const DictionaryFile &fileByName(const std::vector<DictionaryFile> &files, QLati
 
 void readLists(LoaderNames &names, const DictionaryFile &file) {
     constexpr QLatin1StringView kKeys[] = {"source"_L1, "items"_L1};
-    const QJsonObject lists = QJsonDocument::fromJson(file.text).object();
     const JsonReader reader = readerOf(file);
-    for (auto it = lists.begin(); it != lists.end(); ++it) {
-        JsonReader list = reader.nested("items"_L1, it.value());
-        list.setOwner(it.key());
+    for (const QString &name : reader.keys()) {
+        JsonReader list = reader.nested("items"_L1, reader.value(name));
+        list.setOwner(name);
         list.allow(kKeys);
-        names.lists.insert(it.key(), list.array("items"_L1));
+        names.lists.insert(name, ItemListParser::read(names, list, list.array("items"_L1)));
     }
 }
 

@@ -125,6 +125,12 @@ void FieldDefaultParser::read(const LoaderNames &names, FieldDefinition &field, 
     }
     if (!reader.has("default"_L1))
         reader.refuse("default"_L1, u"is missing"_s);
+    field.defaultNextFree = field.kind == FieldKind::Choice && !field.scope.isEmpty() &&
+                            reader.value("default"_L1) == QJsonValue(u"next free"_s);
+    if (field.defaultNextFree) {
+        field.defaultNumber = field.items.front().value;
+        return;
+    }
     field.defaultNumber = readValue(field, reader, "default"_L1, reader.value("default"_L1));
     if (field.kind == FieldKind::Number)
         checkNumber(field, reader, "default"_L1, field.defaultNumber, field.limits.minimum, field.limits.maximum);

@@ -100,7 +100,7 @@ struct FieldDefinition {
     qint32 defaultNumber = 0;     // of numbers, lists, flags, choices, references
     QString defaultText;          // of texts
     DefaultsTable defaultBy;      // beats defaultNumber when its field is valid
-    bool defaultNextFree = false; // an identity: the lowest free number
+    bool defaultNextFree = false; // an identity: the lowest free number; a choice: the first item that its scope leaves
 
     NumberLimits limits; // of a number or an identity, without regard to limitsBy
     std::optional<LimitsTable> limitsBy;
@@ -122,6 +122,7 @@ struct FieldDefinition {
     Rule enabledWhen;
     FieldIndex resetWhenChanges; // a change of that field sets this one to its default
     FieldIndex follows;          // takes that field's new value when both were equal before the edit
+    qint32 followsInRow = 0;     // of a child structure that follows its parent: only in the record of this number
     qint32 helpNumber = 0;
 
     qint32 column = -1; // place among the structure's number columns or text columns; -1: not stored

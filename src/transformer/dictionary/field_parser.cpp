@@ -1,6 +1,7 @@
 #include "field_parser.h"
 
 #include "field_default_parser.h"
+#include "item_list_parser.h"
 #include "memory_place_parser.h"
 #include "rule_parser.h"
 
@@ -47,11 +48,11 @@ constexpr QLatin1StringView kFieldKeys[] = {"id"_L1,
                                             "enabledWhen"_L1,
                                             "width"_L1,
                                             "follows"_L1,
+                                            "followsInRow"_L1,
                                             "whenTargetGoes"_L1,
                                             "number"_L1,
                                             "resetWhenChanges"_L1,
                                             "disableWhenAbsent"_L1};
-constexpr QLatin1StringView kItemKeys[] = {"text"_L1, "value"_L1, "level"_L1, "tiers"_L1};
 
 constexpr std::pair<QLatin1StringView, FieldKind> kKinds[] = {
     {"number"_L1, FieldKind::Number},     {"text"_L1, FieldKind::Text},
@@ -105,17 +106,6 @@ void readVisibility(const LoaderNames &names, FieldDefinition &field, const Json
     field.fact = reader.flag("fact"_L1);
     field.readOnly =
         reader.flag("readOnly"_L1) || field.kind == FieldKind::RecordNumber || field.kind == FieldKind::Derived;
-}
-
-ListItem readItem(const LoaderNames &names, const JsonReader &field, QLatin1StringView key, const QJsonValue &entry,
-                  qint32 place, bool &hasValues) {
-    if (entry.isString())
-        return {entry.toString(), place, 0, TierMask::all()};
-    const JsonReader reader = field.nested(key, entry);
-    reader.allow(kItemKeys);
-    hasValues = hasValues || reader.has("value"_L1);
-    return {reader.text("text"_L1), reader.integerOr("value"_L1, place), reader.integerOr("level"_L1, 0),
-            names.tierMask(reader, "tiers"_L1)};
 }
 
 qint32 widestShown(const FieldDefinition &field) {
@@ -208,23 +198,19 @@ void FieldParser::readNumber(FieldDefinition &field, const JsonReader &reader) c
 }
 
 void FieldParser::readItems(FieldDefinition &field, const JsonReader &reader) const {
-    QJsonArray items = reader.arrayOrEmpty("items"_L1);
+    ItemList list;
     if (reader.has("list"_L1)) {
-        const QString list = reader.text("list"_L1);
-        if (!mNames.lists.contains(list))
-            reader.refuse("list"_L1, u"there is no list \"%1\""_s.arg(list));
-        items = mNames.lists.value(list);
+        const QString name = reader.text("list"_L1);
+        if (!mNames.lists.contains(name))
+            reader.refuse("list"_L1, u"there is no list \"%1\""_s.arg(name));
+        list = mNames.lists.value(name);
+    } else if (reader.has("items"_L1)) {
+        list = ItemListParser::read(mNames, reader, reader.array("items"_L1));
     }
-    field.items.reserve(std::size_t(items.size()));
-    for (const QJsonValue &entry : items)
-        field.items.push_back(
-            readItem(mNames, reader, "items"_L1, entry, qint32(field.items.size()), field.itemsHaveValues));
-    for (const ListItem &item : field.items) {
-        if (std::ranges::count(field.items, item.value, &ListItem::value) > 1)
-            reader.refuse("items"_L1, u"the value %1 stands twice"_s.arg(item.value));
-        if (field.scope.isEmpty() && std::ranges::count(field.items, item.text, &ListItem::text) > 1)
-            reader.refuse("items"_L1, u"the text \"%1\" stands twice"_s.arg(item.text));
-    }
+    if (field.scope.isEmpty() && !list.repeatedText.isEmpty())
+        reader.refuse("items"_L1, u"the text \"%1\" stands twice"_s.arg(list.repeatedText));
+    field.items = std::move(list.items);
+    field.itemsHaveValues = list.haveValues;
 }
 
 void FieldParser::addToStructure(FieldDefinition &field) {
@@ -279,9 +265,13 @@ void FieldParser::readNamedFields(const Pending &pending) {
             continue;
         *target = mNames.field(reader, key, reader.text(key));
         const FieldDefinition &source = mNames.definition(*target);
-        if (source.structure != field.structure || !source.isStored() || !field.isStored())
+        const bool fromParent = key == "follows"_L1 && reader.has("followsInRow"_L1);
+        const StructureIndex home =
+            fromParent ? mNames.parts.structures[field.structure.slot()].parent : field.structure;
+        if (source.structure != home || !source.isStored() || !field.isStored())
             reader.refuse(key, u"\"%1\" must be stored in the same structure"_s.arg(source.id));
     }
+    field.followsInRow = reader.integerOr("followsInRow"_L1, 0);
     for (const QString &id : reader.texts("from"_L1))
         field.reads.push_back(mNames.field(reader, "from"_L1, id));
     field.at = MemoryPlaceParser::read(mNames, field, reader);

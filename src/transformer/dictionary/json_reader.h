@@ -21,6 +21,8 @@ class JsonReader {
 
     [[nodiscard]] bool has(QLatin1StringView key) const { return mObject.contains(key); }
     [[nodiscard]] QJsonValue value(QLatin1StringView key) const { return mObject.value(key); }
+    [[nodiscard]] QStringList keys() const { return mObject.keys(); }
+    [[nodiscard]] QJsonValue value(const QString &key) const { return mObject.value(key); }
     // Missing is refused; the wrong type always is.
     [[nodiscard]] QString text(QLatin1StringView key) const;
     [[nodiscard]] qint32 integer(QLatin1StringView key) const;

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "dictionary.h"
-#include "json_reader.h"
+#include "item_list.h"
 
 #include <QHash>
 
@@ -11,7 +11,7 @@ struct LoaderNames {
     QHash<QString, TierIndex> tiers;
     QHash<QString, StructureIndex> structures;
     QHash<QString, FieldIndex> fields;
-    QHash<QString, QJsonArray> lists; // items by list name
+    QHash<QString, ItemList> lists; // by name
 
     // Refuse, on behalf of reader and key, a name that nothing defines.
     [[nodiscard]] TierMask tierMask(const JsonReader &reader, QLatin1StringView key) const; // missing: all

@@ -155,7 +155,7 @@ void StructureParser::readTiers(LoaderNames &names, const JsonReader &file) {
 void StructureParser::readStructures(LoaderNames &names, const JsonReader &file) {
     file.allow(kStructureFileKeys);
     names.parts.layoutNumber = file.integer("layout"_L1);
-    for (const QJsonValue &entry : file.array("structures"_L1))
+    for (const auto &entry : file.array("structures"_L1))
         readStructure(names, file.nested("structures"_L1, entry));
     if (std::ranges::count_if(names.parts.structures, &RecordStructure::isRadio) != 1)
         file.refuse("structures"_L1, u"exactly one, the radio, must have no \"guide\""_s);

@@ -48,14 +48,14 @@ QJsonObject DataFileReader::headerObject(const QByteArray &text) const {
 
 DataFileHeader DataFileReader::checkedHeader(const QJsonObject &object) const {
     const auto text = [&object](const char *key) { return object.value(QLatin1StringView(key)).toString(); };
-    const DataFileHeader header{.formatVersion = object.value(QStringLiteral("formatVersion")).toInt(),
-                                .tier = text("tier"),
-                                .radioModel = text("radioModel"),
-                                .databaseVersion = text("databaseVersion"),
-                                .applicationVersion = text("applicationVersion"),
-                                .date = text("date"),
-                                .networks = object.value(QStringLiteral("networks")).toInt(),
-                                .comment = text("comment")};
+    DataFileHeader header{.formatVersion = object.value(QStringLiteral("formatVersion")).toInt(),
+                          .tier = text("tier"),
+                          .radioModel = text("radioModel"),
+                          .databaseVersion = text("databaseVersion"),
+                          .applicationVersion = text("applicationVersion"),
+                          .date = text("date"),
+                          .networks = object.value(QStringLiteral("networks")).toInt(),
+                          .comment = text("comment")};
     if (header.formatVersion < 1)
         damaged(QStringLiteral("its header names no format version"));
     if (header.formatVersion > DataDocuments::kFormatVersion)
@@ -83,13 +83,23 @@ DataDocument DataFileReader::read(const QByteArray &text) const {
     const DataFileHeader header = checkedHeader(headerJson);
     if (!SealedText::isIntact(text))
         damaged(QStringLiteral("its content does not fit its checksum"));
+    return parse(text, headerJson, header.tier);
+}
+
+DataDocument DataFileReader::readJustSealed(const QByteArray &text) const {
+    const QJsonObject headerJson = headerObject(text);
+    return parse(text, headerJson, checkedHeader(headerJson).tier);
+}
+
+DataDocument DataFileReader::parse(const QByteArray &text, const QJsonObject &headerJson,
+                                   const QString &currentTier) const {
     QJsonParseError error{};
     const QJsonObject top = QJsonDocument::fromJson(text, &error).object();
     if (error.error != QJsonParseError::NoError)
         damaged(QStringLiteral("its text is broken at byte %1").arg(error.offset));
-    const std::optional<TierIndex> current = mDictionary.tierByKey(header.tier);
+    const std::optional<TierIndex> current = mDictionary.tierByKey(currentTier);
     const QJsonObject tiers = top.value(QStringLiteral("tiers")).toObject();
-    if (!current || !tiers.contains(header.tier))
+    if (!current || !tiers.contains(currentTier))
         damaged(QStringLiteral("the values of its radio model are missing"));
 
     DataDocument document(mDictionary);

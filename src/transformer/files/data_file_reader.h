@@ -16,10 +16,14 @@ class DataFileReader {
     // The header alone, from the first lines; the rest is not looked at.
     [[nodiscard]] DataFileHeader readHeader(const QByteArray &text) const;
     [[nodiscard]] DataDocument read(const QByteArray &text) const;
+    // As read, for a text that this program has just sealed: the checksum is not worked out once more.
+    [[nodiscard]] DataDocument readJustSealed(const QByteArray &text) const;
 
   private:
     [[nodiscard]] QJsonObject headerObject(const QByteArray &text) const;
     [[nodiscard]] DataFileHeader checkedHeader(const QJsonObject &object) const;
+    [[nodiscard]] DataDocument parse(const QByteArray &text, const QJsonObject &headerJson,
+                                     const QString &currentTier) const;
     void checkVersion(const QString &databaseVersion) const;
     [[noreturn]] void damaged(const QString &reason) const;
 

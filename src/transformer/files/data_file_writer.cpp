@@ -29,7 +29,10 @@ void chopEnd(QByteArray &text, QByteArrayView end) {
 } // namespace
 
 DataFileWriter::DataFileWriter(const DataDocument &document)
-    : mDocument(document), mDictionary(document.data.dictionary()) {}
+    : mDocument(document), mDictionary(document.data.dictionary()) {
+    for (const FieldDefinition &field : mDictionary.fields())
+        mKeys.push_back('"' + field.id.toUtf8() + "\": ");
+}
 
 DataFileHeader DataFileWriter::header(const QString &applicationVersion, const QString &comment) const {
     const TierData &current = mDocument.data.current();
@@ -64,62 +67,71 @@ QByteArray DataFileWriter::write(const DataFileHeader &header) const {
         const TierData &tier = mDocument.data.tier(TierIndex(place));
         if (tier.tier() == mDocument.data.currentTier() || FieldDefaults(tier).differs() ||
             tier.versionLevel() != mDictionary.newestLevel())
-            text += tierText(tier);
+            appendTier(text, tier);
     }
     chopEnd(text, ",\n");
     text = SealedText::seal(text + "\n},\n");
 
-    const DataDocument again = DataFileReader(mDictionary, QString()).read(text);
+    const DataDocument again = DataFileReader(mDictionary, QString()).readJustSealed(text);
     if (!DataDocuments::sameContent(again.data, mDocument.data))
         throw RunTimeError(ErrorNumber::kBadArgument, QStringLiteral("DataFileWriter"),
                            QStringLiteral("The written data differs from the data in memory"));
     return text;
 }
 
-QByteArray DataFileWriter::tierText(const TierData &tier) const {
-    QByteArray text = RecordJson::quoted(mDictionary.tier(tier.tier()).key) + ": {\n";
+void DataFileWriter::appendTier(QByteArray &text, const TierData &tier) const {
+    text += RecordJson::quoted(mDictionary.tier(tier.tier()).key) + ": {\n";
     text += "\"databaseVersion\": " + RecordJson::quoted(mDictionary.versionName(tier.versionLevel())) + ",\n";
     text += entriesOf(mDocument.unknown.ofTier(tier.tier()), ",\n");
     for (const RecordStructure &structure : mDictionary.structures()) {
         if (structure.isRadio() || structure.in(tier.tier()).most > 0)
-            text += structureText(tier, structure);
+            appendStructure(text, tier, structure);
     }
     chopEnd(text, ",\n");
-    return text + "\n},\n";
+    text += "\n},\n";
 }
 
-QByteArray DataFileWriter::structureText(const TierData &tier, const RecordStructure &structure) const {
-    QByteArray text = RecordJson::quoted(structure.name) + ": ";
-    if (!structure.isScoped())
-        return text + tableText(tier, structure, 0) + ",\n";
+void DataFileWriter::appendStructure(QByteArray &text, const TierData &tier, const RecordStructure &structure) const {
+    text += RecordJson::quoted(structure.name) + ": ";
+    if (!structure.isScoped()) {
+        appendTable(text, tier, structure, 0);
+        text += ",\n";
+        return;
+    }
     text += '[';
     const qint32 parents = tier.recordCount(structure.parent);
-    for (qint32 parent = 1; parent <= parents; ++parent)
-        text += tableText(tier, structure, parent) + ",\n";
+    for (qint32 parent = 1; parent <= parents; ++parent) {
+        appendTable(text, tier, structure, parent);
+        text += ",\n";
+    }
     chopEnd(text, ",\n");
-    return text + "],\n";
+    text += "],\n";
 }
 
-QByteArray DataFileWriter::tableText(const TierData &tier, const RecordStructure &structure, qint32 parent) const {
-    QByteArray text = "[";
+void DataFileWriter::appendTable(QByteArray &text, const TierData &tier, const RecordStructure &structure,
+                                 qint32 parent) const {
+    text += '[';
     const qint32 count = tier.recordCount(structure.index, parent);
-    for (qint32 number = 1; number <= count; ++number)
-        text += '\n' + recordText(tier, structure, {parent, structure.isRadio() ? 0 : number}) + ',';
+    for (qint32 number = 1; number <= count; ++number) {
+        text += '\n';
+        appendRecord(text, tier, structure, {parent, structure.isRadio() ? 0 : number});
+        text += ',';
+    }
     chopEnd(text, ",");
-    return text + ']';
+    text += ']';
 }
 
-QByteArray DataFileWriter::recordText(const TierData &tier, const RecordStructure &structure,
-                                      RecordAddress record) const {
+void DataFileWriter::appendRecord(QByteArray &text, const TierData &tier, const RecordStructure &structure,
+                                  RecordAddress record) const {
     // The radio's own many fields stand a line each.
     const QByteArrayView between = structure.isRadio() ? ",\n" : ", ";
-    QByteArray text = "{";
+    text += '{';
     for (const FieldIndex index : structure.stored) {
-        const FieldDefinition &field = mDictionary.field(index);
-        text += '"' + field.id.toUtf8() + "\": " + RecordJson::valueText(field, tier.value(index, record));
+        text += mKeys[index.slot()];
+        RecordJson::appendValue(text, mDictionary.field(index), tier.value(index, record));
         text += between;
     }
     text += entriesOf(mDocument.unknown.ofRecord(tier.tier(), structure.index, record), between);
     chopEnd(text, between);
-    return text + '}';
+    text += '}';
 }

@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+#include <vector>
+
 // The text of a data file: the header on a line of its own, the current tier and every other tier that differs from its
 // defaults, a record a line, and the seal.
 class DataFileWriter {
@@ -16,12 +18,13 @@ class DataFileWriter {
     [[nodiscard]] QByteArray write(const DataFileHeader &header) const;
 
   private:
-    [[nodiscard]] QByteArray tierText(const TierData &tier) const;
-    [[nodiscard]] QByteArray structureText(const TierData &tier, const RecordStructure &structure) const;
-    [[nodiscard]] QByteArray tableText(const TierData &tier, const RecordStructure &structure, qint32 parent) const;
-    [[nodiscard]] QByteArray recordText(const TierData &tier, const RecordStructure &structure,
-                                        RecordAddress record) const;
+    void appendTier(QByteArray &text, const TierData &tier) const;
+    void appendStructure(QByteArray &text, const TierData &tier, const RecordStructure &structure) const;
+    void appendTable(QByteArray &text, const TierData &tier, const RecordStructure &structure, qint32 parent) const;
+    void appendRecord(QByteArray &text, const TierData &tier, const RecordStructure &structure,
+                      RecordAddress record) const;
 
     const DataDocument &mDocument;
     const Dictionary &mDictionary;
+    std::vector<QByteArray> mKeys; // by field: "UIID":
 };

@@ -6,17 +6,28 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
 #include <cmath>
+
+namespace {
+bool isPlain(QChar letter) { return letter >= u' ' && letter <= u'~' && letter != u'"' && letter != u'\\'; }
+} // namespace
 
 namespace RecordJson {
 QByteArray quoted(const QString &text) {
+    if (std::ranges::all_of(text, isPlain))
+        return '"' + text.toLatin1() + '"';
     const QByteArray array = QJsonDocument(QJsonArray{text}).toJson(QJsonDocument::Compact);
     return array.sliced(1, array.size() - 2);
 }
 
-QByteArray valueText(const FieldDefinition &field, const StoredValue &value) {
-    return field.isTextual() ? quoted(value.text())
-                             : ValueCodec::shortNumber(value.number(), field.decimals).toLatin1();
+void appendValue(QByteArray &text, const FieldDefinition &field, const StoredValue &value) {
+    if (field.isTextual())
+        text += quoted(value.text());
+    else if (field.decimals > 0)
+        text += ValueCodec::shortNumber(value.number(), field.decimals).toLatin1();
+    else
+        text += QByteArray::number(value.number());
 }
 
 std::optional<StoredValue> value(const FieldDefinition &field, const QJsonValue &json) {
@@ -47,7 +58,12 @@ QJsonObject ofRow(const Dictionary &dictionary, const RecordStructure &structure
 
 RecordRow row(const Dictionary &dictionary, const RecordStructure &structure, const QJsonObject &json,
               const RecordRow &fallback) {
-    RecordRow result = fallback;
+    return parse(dictionary, structure, json, fallback).row;
+}
+
+ParsedRow parse(const Dictionary &dictionary, const RecordStructure &structure, const QJsonObject &json,
+                const RecordRow &fallback) {
+    ParsedRow result{.row = fallback};
     for (std::size_t i = 0; i < structure.stored.size(); ++i) {
         const FieldDefinition &field = dictionary.field(structure.stored[i]);
         const auto found = json.constFind(field.id);
@@ -56,7 +72,8 @@ RecordRow row(const Dictionary &dictionary, const RecordStructure &structure, co
         const std::optional<StoredValue> parsed = value(field, *found);
         if (!parsed)
             throw RunTimeError(ErrorNumber::kBadArgument, QStringLiteral("RecordJson"), field.id);
-        result[i] = *parsed;
+        result.row[i] = *parsed;
+        ++result.known;
     }
     return result;
 }

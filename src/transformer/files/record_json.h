@@ -10,13 +10,20 @@
 namespace RecordJson {
 // A text as a JSON string, with its quotation marks.
 [[nodiscard]] QByteArray quoted(const QString &text);
-[[nodiscard]] QByteArray valueText(const FieldDefinition &field, const StoredValue &value);
+void appendValue(QByteArray &text, const FieldDefinition &field, const StoredValue &value);
 // Nothing if the JSON value is of another kind or not a multiple of the stored unit.
 [[nodiscard]] std::optional<StoredValue> value(const FieldDefinition &field, const QJsonValue &json);
 
 [[nodiscard]] QJsonObject ofRow(const Dictionary &dictionary, const RecordStructure &structure, const RecordRow &row);
+struct ParsedRow {
+    RecordRow row;
+    qsizetype known = 0; // entries of json that are stored fields of the structure
+};
 // Fields that json lacks keep their value of fallback. Raises RunTimeError (5) naming the field for a value that does
 // not fit its kind.
+[[nodiscard]] ParsedRow parse(const Dictionary &dictionary, const RecordStructure &structure, const QJsonObject &json,
+                              const RecordRow &fallback);
+// The row of it alone.
 [[nodiscard]] RecordRow row(const Dictionary &dictionary, const RecordStructure &structure, const QJsonObject &json,
                             const RecordRow &fallback);
 // What json holds beyond the structure's stored fields.

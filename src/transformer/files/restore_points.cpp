@@ -27,7 +27,7 @@ QString RestorePoints::store(const QString &serialNumber, const QByteArray &data
         if (newest.isValid() && newest >= time)
             time = newest.addMSecs(1);
     }
-    const QString path = folder + u'/' + time.toString(kStamp) + QStringLiteral(".k4p");
+    QString path = folder + u'/' + time.toString(kStamp) + QStringLiteral(".k4p");
     WholeFile::replace(path, dataFile);
     for (const QString &old : of(serialNumber).mid(kKept))
         QFile::remove(old);

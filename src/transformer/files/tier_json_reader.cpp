@@ -114,9 +114,11 @@ RecordRow TierJsonReader::readRow(const RecordStructure &structure, const QJsonV
     if (!json.isObject())
         wrong(QStringLiteral("record %1 of %2 is missing").arg(record.number).arg(structure.name));
     const QJsonObject object = json.toObject();
-    unknown.setRecord(mTier, structure.index, record, RecordJson::unknownOf(mDictionary, structure, object));
     try {
-        return RecordJson::row(mDictionary, structure, object, fallback);
+        const RecordJson::ParsedRow parsed = RecordJson::parse(mDictionary, structure, object, fallback);
+        if (parsed.known < object.size())
+            unknown.setRecord(mTier, structure.index, record, RecordJson::unknownOf(mDictionary, structure, object));
+        return parsed.row;
     } catch (const RunTimeError &fault) {
         wrong(QStringLiteral("record %1 of %2 has a bad value of %3")
                   .arg(record.number)

@@ -32,7 +32,9 @@ QByteArray read(const QString &path) {
 
 void replace(const QString &path, const QByteArray &bytes) {
     QSaveFile file(path);
-    const bool written = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+    // The flush tells that the disk is full: commit() alone would put a file that is cut off in the old one's place.
+    const bool written =
+        file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush() && file.commit();
     if (!written)
         notWritten(path, file.errorString());
 }

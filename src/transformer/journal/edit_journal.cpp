@@ -84,7 +84,9 @@ Changes EditJournal::revertForm(TierIndex tier) {
     if (!mDirtyAtFormStart.contains(tier))
         mDirty.erase(tier);
     mFormTouched = false;
-    if (!undone.empty())
+    if (mDirty.empty())
+        removeFile(); // nothing is left to recover
+    else if (!undone.empty())
         writeEdit(tier, undone);
     return undone;
 }

@@ -42,7 +42,7 @@ class EditJournal {
     void touchForm() { mFormTouched = true; }
     [[nodiscard]] bool formIsDirty() const { return mFormTouched || mSteps.size() > mFormStart; }
     // Takes back the open form's steps on the tier; answers what was made to do so. The unsaved mark is again what it
-    // was.
+    // was; when nothing is unsaved any more the file goes.
     Changes revertForm(TierIndex tier);
 
     [[nodiscard]] bool isDirty(TierIndex tier) const { return mDirty.contains(tier); }

@@ -1,7 +1,5 @@
 #include "change.h"
 
-#include <ranges>
-
 namespace {
 
 struct Inverter {
@@ -20,7 +18,7 @@ Change inverse(const Change &change) { return std::visit(Inverter(), change); }
 Changes inverse(const Changes &changes) {
     Changes result;
     result.reserve(changes.size());
-    for (const Change &change : changes | std::views::reverse)
-        result.push_back(inverse(change));
+    for (auto step = changes.rbegin(); step != changes.rend(); ++step)
+        result.push_back(inverse(*step));
     return result;
 }

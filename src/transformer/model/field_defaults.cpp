@@ -13,7 +13,7 @@ StoredValue FieldDefaults::defaultOf(FieldIndex index, qint32 parent) const {
     const FieldDefinition &field = dictionary.field(index);
     if (field.isTextual())
         return field.defaultText;
-    if (field.defaultNextFree)
+    if (field.kind == FieldKind::Identity)
         return nextFreeIdentity(field.structure, parent, field.limits.minimum).value_or(field.limits.minimum);
     if (!field.defaultBy.field.isValid())
         return field.defaultNumber;
@@ -34,17 +34,11 @@ StoredValue FieldDefaults::defaultFor(FieldIndex index, RecordAddress record) co
 
 std::optional<qint32> FieldDefaults::nextFreeIdentity(StructureIndex structure, qint32 parent, qint32 from) const {
     const FieldDefinition &identity = mData.dictionary().field(mData.dictionary().structure(structure).identity);
-    const qint32 count = mData.recordCount(structure, parent);
-    // Among count + 1 numbers one at least is free.
-    std::vector<bool> taken(std::size_t(count) + 1);
-    for (qint32 number = 1; number <= count; ++number) {
-        const qint32 place = mData.number(identity, {parent, number}) - from;
-        if (place >= 0 && place <= count)
-            taken[std::size_t(place)] = true;
+    for (qint32 number = from; number <= identity.limits.maximum; ++number) {
+        if (!mData.recordByIdentity(structure, number, parent))
+            return number;
     }
-    const auto free = std::ranges::find(taken, false) - taken.begin();
-    const qint64 found = qint64(from) + free;
-    return found <= identity.limits.maximum ? std::optional(qint32(found)) : std::nullopt;
+    return std::nullopt;
 }
 
 RecordRow FieldDefaults::newRow(const RecordStructure &structure, qint32 parent) const {

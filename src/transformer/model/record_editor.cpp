@@ -3,6 +3,8 @@
 #include "field_defaults.h"
 #include "run_time_error.h"
 
+#include <QHash>
+
 #include <algorithm>
 #include <numeric>
 
@@ -56,21 +58,38 @@ Changes RecordEditor::setValue(FieldIndex field, RecordAddress record, const Sto
 }
 
 void RecordEditor::setDependents(Changes &changes, FieldIndex field, RecordAddress record, const StoredValue &before) {
-    const DependencyIndex &dependencies = mData.dictionary().dependencies();
+    const Dictionary &dictionary = mData.dictionary();
+    const DependencyIndex &dependencies = dictionary.dependencies();
     const FieldDefaults defaults(mData);
-    const auto setFurther = [&](FieldIndex dependent, const StoredValue &value) {
-        const StoredValue old = mData.value(dependent, record);
+    const auto setFurther = [&](FieldIndex dependent, RecordAddress place, const StoredValue &value) {
+        const StoredValue old = mData.value(dependent, place);
         if (old == value)
             return;
-        set(changes, dependent, record, value);
-        setDependents(changes, dependent, record, old);
+        set(changes, dependent, place, value);
+        setDependents(changes, dependent, place, old);
     };
     for (const FieldIndex dependent : dependencies.resets(field))
-        setFurther(dependent, defaults.defaultFor(dependent, record));
-    for (const FieldIndex follower : dependencies.followers(field)) {
-        if (mData.value(follower, record) == before)
-            setFurther(follower, mData.value(field, record));
+        setFurther(dependent, record, defaults.defaultFor(dependent, record));
+    for (const FieldIndex index : dependencies.followers(field)) {
+        const FieldDefinition &follower = dictionary.field(index);
+        const RecordAddress place =
+            follower.followsInRow == 0 ? record : RecordAddress{record.number, follower.followsInRow};
+        if (mData.exists(follower.structure, place) && mData.value(index, place) == before)
+            setFurther(index, place, mData.value(field, record));
     }
+}
+
+Changes RecordEditor::renumber(StructureIndex index, const std::vector<std::pair<RecordAddress, qint32>> &identities) {
+    Changes changes;
+    const FieldIndex identity = mData.dictionary().structure(index).identity;
+    QHash<qint32, qint32> renumbered;
+    for (const auto &[record, number] : identities) {
+        renumbered.insert(mData.identityOf(index, record), number);
+        set(changes, identity, record, number);
+    }
+    if (!changes.empty())
+        followIdentity(changes, index, [&](qint32 old) { return renumbered.value(old, old); });
+    return changes;
 }
 
 // Renumber maps the identities that references to the structure hold.
@@ -133,6 +152,29 @@ RecordResult RecordEditor::insertRecord(StructureIndex index, RecordAddress reco
     if (auto refusal = mayInsert(structure, record))
         return refused(*refusal);
     return insertImage(structure, record, FieldDefaults(mData).newRecord(index, record.parent));
+}
+
+RecordResult RecordEditor::appendRecords(StructureIndex index, qint32 parent, const std::vector<qint32> &identities) {
+    const RecordStructure &structure = mData.dictionary().structure(index);
+    RecordAddress record{parent, mData.recordCount(index, parent) + 1};
+    RecordResult result;
+    result.record = record;
+    if (identities.empty())
+        return result;
+    const qint32 most = structure.in(mData.tier()).most;
+    if (auto refusal = mayInsert(structure, record))
+        return refused(*refusal);
+    if (record.number - 1 + qint32(identities.size()) > most)
+        return refused({RecordRefusal::Reason::Full, index, most, {}, {}});
+    RecordImage image = FieldDefaults(mData).newRecord(index, parent);
+    const auto place = std::ranges::find(structure.stored, structure.identity) - structure.stored.begin();
+    for (const qint32 identity : identities) {
+        if (structure.identity.isValid())
+            image.row[std::size_t(place)] = identity;
+        make(result.changes, InsertStep{index, record, image});
+        ++record.number;
+    }
+    return result;
 }
 
 RecordResult RecordEditor::copyRecord(StructureIndex index, RecordAddress record) {

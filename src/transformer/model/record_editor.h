@@ -42,6 +42,12 @@ class RecordEditor {
     // that follow. An unchanged value gives no steps. Error 9 for a record that does not exist.
     Changes setValue(FieldIndex field, RecordAddress record, const StoredValue &value);
 
+    // New identities of records of one table, at once: two records may exchange theirs. They are free and in range.
+    Changes renumber(StructureIndex structure, const std::vector<std::pair<RecordAddress, qint32>> &identities);
+    // Records of defaults behind the last one, one for each identity; in structures without identities their number
+    // alone counts. The identities are free and in range. Refused as a whole where they have no room.
+    RecordResult appendRecords(StructureIndex structure, qint32 parent, const std::vector<qint32> &identities);
+
     // A new record of defaults; number 1 to count + 1, count + 1 appends.
     RecordResult insertRecord(StructureIndex structure, RecordAddress record);
     // A copy of the record right behind it, with its children and with an identity of its own.

@@ -23,6 +23,8 @@ StoredValue RecordTable::value(const FieldDefinition &field, qint32 record) cons
 }
 
 void RecordTable::setValue(const FieldDefinition &field, qint32 record, const StoredValue &value) {
+    if (field.kind == FieldKind::Identity)
+        mIdentities.changed(number(field, record), value.number(), record);
     if (field.isTextual())
         mTexts[std::size_t(field.column)][std::size_t(record - 1)] = value.text();
     else
@@ -35,22 +37,28 @@ void RecordTable::insert(qint32 record, const Dictionary &dictionary, const Reco
         const FieldDefinition &field = dictionary.field(structure.stored[i]);
         const auto column = std::size_t(field.column);
         if (field.isTextual())
-            mTexts[column].insert(mTexts[column].begin() + record - 1, row[i].text());
+            mTexts[column].insert(mTexts[column].begin() + (record - 1), row[i].text());
         else
-            mNumbers[column].insert(mNumbers[column].begin() + record - 1, row[i].number());
+            mNumbers[column].insert(mNumbers[column].begin() + (record - 1), row[i].number());
     }
     ++mCount;
+    if (record < mCount)
+        mIdentities.forget();
+    else if (structure.identity.isValid())
+        mIdentities.appended(number(dictionary.field(structure.identity), record), record);
 }
 
 void RecordTable::remove(qint32 record) {
     for (auto &column : mNumbers)
-        column.erase(column.begin() + record - 1);
+        column.erase(column.begin() + (record - 1));
     for (auto &column : mTexts)
-        column.erase(column.begin() + record - 1);
+        column.erase(column.begin() + (record - 1));
     --mCount;
+    mIdentities.forget();
 }
 
 void RecordTable::move(qint32 from, qint32 to) {
+    mIdentities.forget();
     for (auto &column : mNumbers)
         moveIn(column, from, to);
     for (auto &column : mTexts)

@@ -2,6 +2,7 @@
 
 #include "change.h"
 #include "dictionary.h"
+#include "identity_index.h"
 
 // The records of one structure below one parent, a column for each stored field. Numbers count from 1 here too;
 // callers have checked them.
@@ -19,6 +20,10 @@ class RecordTable {
     }
     [[nodiscard]] StoredValue value(const FieldDefinition &field, qint32 record) const;
     void setValue(const FieldDefinition &field, qint32 record, const StoredValue &value);
+    // The first record with that identity; field: the structure's identity.
+    [[nodiscard]] std::optional<qint32> findIdentity(const FieldDefinition &field, qint32 identity) const {
+        return mIdentities.find(identity, mNumbers[std::size_t(field.column)]);
+    }
 
     // The row is in the order of structure.stored.
     void insert(qint32 record, const Dictionary &dictionary, const RecordStructure &structure, const RecordRow &row);
@@ -30,4 +35,5 @@ class RecordTable {
     qint32 mCount = 0;
     std::vector<std::vector<qint32>> mNumbers;
     std::vector<std::vector<QString>> mTexts;
+    mutable IdentityIndex mIdentities;
 };

@@ -135,12 +135,10 @@ std::optional<RecordAddress> TierData::recordByIdentity(StructureIndex structure
     const qint32 count = recordCount(structure, parent);
     if (!field.isValid())
         return identity >= 1 && identity <= count ? std::optional(RecordAddress{parent, identity}) : std::nullopt;
-    const FieldDefinition &definition = mDictionary->field(field);
-    for (qint32 number = 1; number <= count; ++number) {
-        if (table(structure, parent).number(definition, number) == identity)
-            return RecordAddress{parent, number};
-    }
-    return std::nullopt;
+    if (count == 0)
+        return std::nullopt;
+    const std::optional<qint32> found = table(structure, parent).findIdentity(mDictionary->field(field), identity);
+    return found ? std::optional(RecordAddress{parent, *found}) : std::nullopt;
 }
 
 RecordRow TierData::rowAt(StructureIndex structure, RecordAddress record) const {
@@ -190,7 +188,7 @@ void TierData::insertChildren(const RecordStructure &structure, qint32 number, c
         qint32 next = child.isFlat() ? (number - 1) * child.perParent + 1 : 1;
         if (child.isScoped()) {
             auto &tables = mTables[child.index.slot()];
-            tables.insert(tables.begin() + number - 1, emptyTable(child.index));
+            tables.insert(tables.begin() + (number - 1), emptyTable(child.index));
         }
         for (const RecordRow &row : image.children[i])
             insertRow(child.index, {child.isFlat() ? 0 : number, next++}, row);
@@ -209,7 +207,7 @@ void TierData::removeChildren(const RecordStructure &structure, qint32 number) {
     for (const StructureIndex index : structure.children) {
         const RecordStructure &child = mDictionary->structure(index);
         if (child.isScoped()) {
-            mTables[index.slot()].erase(mTables[index.slot()].begin() + number - 1);
+            mTables[index.slot()].erase(mTables[index.slot()].begin() + (number - 1));
             continue;
         }
         for (qint32 i = 0; i < child.perParent; ++i)

@@ -8,6 +8,7 @@
 namespace {
 
 constexpr QLatin1StringView kNone("None");
+constexpr qsizetype kFrequencyWidth = 10; // 000.000000
 using Kind = ValueFault::Kind;
 
 ValueFault fault(Kind kind, const FieldDefinition &field, const NumberLimits &limits, const QString &offending) {
@@ -118,7 +119,9 @@ QString ValueCodec::shown(const FieldDefinition &field, const StoredValue &value
     const qint32 number = value.number();
     switch (field.kind) {
     case FieldKind::Number:
-        return shownNumber(number, field.decimals);
+        return field.decimals == FieldDefinition::kFrequencyDecimals
+                   ? shownNumber(number, field.decimals).rightJustified(kFrequencyWidth, u'0')
+                   : shownNumber(number, field.decimals);
     case FieldKind::Reference:
         return shownReference(field, number);
     case FieldKind::RecordNumber:

@@ -28,8 +28,8 @@ struct ValueFault {
 using ValueResult = std::variant<StoredValue, ValueFault>;
 
 // The three text forms of values and the way back.
-//   shown     what a person reads: a number with its fixed decimals and "." (156.500000), an item's English text, 0 or
-//             1, an identity, "None"
+//   shown     what a person reads: a number with its fixed decimals and ".", a frequency as 000.000000 (045.500000), an
+//             item's English text, 0 or 1, an identity, "None"
 //   raw       what is stored: a number or the text itself
 //   boundary  what crosses the component's boundary: a whole number or the shown form for numbers, the item's value
 //             for lists, 0 or 1, the shown form for ID trackers

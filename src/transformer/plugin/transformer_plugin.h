@@ -7,7 +7,7 @@
 // What the window's program loads: makes the component over the user's folders and the clipboard.
 class TransformerPlugin final : public QObject, public TransformerFactory {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID TransformerFactory_iid)
+    Q_PLUGIN_METADATA(IID TransformerFactory_iid FILE "transformer_plugin.json")
     Q_INTERFACES(TransformerFactory)
 
   public:

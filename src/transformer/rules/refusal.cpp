@@ -10,7 +10,7 @@ namespace {
 QString limitText(const FieldDefinition &field, qint32 stored) {
     const QString number = ValueCodec::shortNumber(stored, field.decimals);
     const bool plain = field.unit.isEmpty() || field.unit == u"units";
-    return plain ? number : number + u' ' + field.unit;
+    return plain ? number : Translation::Piece(u"%0:S %1:S"_s, {number, field.unit});
 }
 
 // A raster of a frequency is told in kHz, as engineers do.
@@ -38,11 +38,7 @@ Refusal offRaster(const FieldDefinition &field, const NumberLimits &limits) {
 
 QString Refusal::text() const { return Translation::Fill(prompt, parameters); }
 
-QString Refusal::parameterString() const {
-    QStringList parts = parameters;
-    parts.replaceInStrings(u"|"_s, u"/"_s);
-    return parts.join(u'|');
-}
+QString Refusal::piece() const { return Translation::Piece(prompt, parameters); }
 
 Refusal RefusalText::ofValue(const FieldDefinition &field, const ValueFault &fault) {
     using Kind = ValueFault::Kind;

@@ -13,8 +13,8 @@ struct Refusal {
 
     // Filled in, in English.
     [[nodiscard]] QString text() const;
-    // As the events carry it: joined by "|" (a "|" inside a value is shown as "/").
-    [[nodiscard]] QString parameterString() const;
+    // As a parameter of another message, translated part by part.
+    [[nodiscard]] QString piece() const;
 };
 
 // The one place that words refusals; each says what is allowed.

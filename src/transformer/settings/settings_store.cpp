@@ -74,5 +74,5 @@ void SettingsStore::putAside() {
 bool SettingsStore::write() const {
     QSaveFile file(mFileName);
     const QByteArray text = SettingsText::write(mEntries);
-    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.flush() && file.commit();
 }

@@ -6,7 +6,7 @@
 // in the order of the items; positions count from 0.
 
 // The stored value at a position. A position that the map does not have, -1 too, raises error 13.
-[[nodiscard]] qint32 ComboTransFromUI(const QString &map, qint32 position);
+[[nodiscard]] Q_DECL_EXPORT qint32 ComboTransFromUI(const QString &map, qint32 position);
 // The position of a value, compared as text. -1 for an empty value. A value that the map does not have gives the last
 // position.
-[[nodiscard]] qint32 ComboTransToUI(const QString &map, const QString &value);
+[[nodiscard]] Q_DECL_EXPORT qint32 ComboTransToUI(const QString &map, const QString &value);

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "figures.h"
+
+// What can be measured. Each raises RunTimeError when the program does not do what is to be measured.
+namespace FigureGroups {
+void component(Figures &figures); // dictionary, model, files, checks, grids
+void process(Figures &figures);   // kx4600ctl as a whole process
+void window(Figures &figures);    // the real window, offscreen, in processes of its own
+void radio(Figures &figures);     // over the simulated radio as a process of its own
+} // namespace FigureGroups

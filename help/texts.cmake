@@ -1,0 +1,38 @@
+# The hand-written texts that the pages depend on.
+set(KX_HELP_TEXTS
+  contents.txt
+  style.css
+  forms/usrctlAlerts.html
+  forms/usrctlChannelsKX4600.html
+  forms/usrctlControlStatusKX4600.html
+  forms/usrctlDTMF.html
+  forms/usrctlDTMFPatch.html
+  forms/usrctlEconomyKX4600.html
+  forms/usrctlEmergencyKX4600.html
+  forms/usrctlFixedFormatBursts.html
+  forms/usrctlFreeFormatDetail.html
+  forms/usrctlFreeFormatKX4600.html
+  forms/usrctlKeySettingsKX4600.html
+  forms/usrctlMDC1200.html
+  forms/usrctlNetworkData.html
+  forms/usrctlNetworkFeatures.html
+  forms/usrctlNetworkPTT.html
+  forms/usrctlNetworks.html
+  forms/usrctlPTT.html
+  forms/usrctlProgIOKX4600.html
+  forms/usrctlRxMonitorKX4600.html
+  forms/usrctlScanGroupsKX4600.html
+  forms/usrctlSelcallSetupKX4600.html
+  forms/usrctlSelcallToneSettings.html
+  forms/usrctlSpecificationsKX4600.html
+  forms/usrctlStartupKX4600.html
+  forms/usrctlType99.html
+  forms/usrctlUIPreferencesKX4600.html
+  pages/cable-and-port.html
+  pages/command-line.html
+  pages/files-and-recovery.html
+  pages/first-steps.html
+  pages/keyboard.html
+  pages/messages.html
+  pages/reading-and-programming.html
+)

@@ -1,0 +1,119 @@
+#include "page_writer.h"
+
+#include "page_sink.h"
+#include "word_wrap.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+// Height and width of "W" in the reference font; a driver whose font deviates scales the line by it.
+constexpr double kReferenceHeight = 0.3563059;
+constexpr double kReferenceWidth = 0.2116669;
+constexpr double kMargin = 2.0;
+const QString kLineBreak = QStringLiteral("\r\n");
+const QString kIndent = QStringLiteral("    "); // what a tab takes in a plain line
+
+// Tabs at the end of a line mark a single table cell and print nothing.
+QString withoutTabs(QString text) {
+    while (text.endsWith(u'\t'))
+        text.chop(1);
+    return text.replace(u'\t', kIndent);
+}
+} // namespace
+
+PageWriter::PageWriter(PageSink &sink, const QString &fontName) : mSink(sink), mFontName(fontName) {
+    mSink.SetFont(mFontName, false);
+    const double height = mSink.TextHeight();
+    const double width = mSink.TextWidth(QStringLiteral("W"));
+    mLineHeight = height * height / kReferenceHeight;
+    mCharacterWidth = width * width / kReferenceWidth;
+    const PageFrame frame = mSink.Frame();
+    mTopMargin = frame.offsetY + kMargin;
+    mLeftMargin = frame.offsetX + kMargin;
+    mPageLimit = frame.height - 2 * mTopMargin;
+    mTextWidth = frame.width - 2 * mLeftMargin;
+    mCharactersPerLine = std::max(1, int(std::floor(mTextWidth / mCharacterWidth)));
+    mCurrentY = mTopMargin;
+}
+
+void PageWriter::PrintLine(const QString &Text, bool Bold, bool Columns, bool Ruled) {
+    servePageBreak();
+    if (Ruled) {
+        printRule();
+        mCurrentY += mLineHeight;
+    }
+    for (const QString &piece : Text.split(kLineBreak)) {
+        if (Columns)
+            PrintColumns(piece, Bold, CellAlignment::Left);
+        else
+            printWrapped(withoutTabs(piece), Bold);
+    }
+    if (!Ruled)
+        return;
+    mCurrentY += mLineHeight / 2;
+    printRule();
+    mCurrentY += mLineHeight;
+}
+
+// Also within a text of several lines, whose rest goes to the new page.
+void PageWriter::servePageBreak() {
+    if (std::exchange(mPageBreakPending, false))
+        mSink.NewPage();
+}
+
+void PageWriter::printRule() { mSink.PrintRule(mLeftMargin, mLeftMargin + mTextWidth, mCurrentY); }
+
+void PageWriter::printWrapped(const QString &text, bool bold) {
+    QString rest = text;
+    while (rest.size() > mCharactersPerLine) {
+        const qsizetype cut = WrapPosition(rest, mCharactersPerLine);
+        PrintALine(rest.first(cut), bold);
+        rest.remove(0, cut);
+    }
+    PrintALine(rest, bold);
+}
+
+void PageWriter::PrintALine(const QString &text, bool bold) {
+    servePageBreak();
+    mSink.SetFont(mFontName, bold);
+    mSink.PrintText(mLeftMargin, mCurrentY, text);
+    advance(mLineHeight);
+}
+
+void PageWriter::PrintColumns(const QString &text, bool bold, CellAlignment alignment) {
+    servePageBreak();
+    mSink.SetFont(mFontName, bold);
+    const QStringList cells = text.split(u'\t');
+    const ColumnLayout layout{mLeftMargin, mTextWidth / double(cells.size())};
+    int wraps = 0;
+    for (qsizetype cell = 0; cell < cells.size(); ++cell)
+        wraps = std::max(wraps, printCell(cells.at(cell), int(cell) + 1, layout, alignment));
+    advance(mLineHeight * (1 + wraps));
+}
+
+int PageWriter::printCell(QString cell, int column, const ColumnLayout &layout, CellAlignment alignment) {
+    const double usableWidth = layout.columnWidth - mCharacterWidth;
+    const int characters = std::max(1, int(std::floor(usableWidth / mCharacterWidth)));
+    const auto print = [&](const QString &part, int wrap) {
+        const double x = layout.CellX(column, mSink.TextWidth(part), alignment);
+        mSink.PrintText(x, mCurrentY + mLineHeight * wrap, part);
+    };
+    int wraps = 0;
+    while (cell.size() > characters && mSink.TextWidth(cell) > usableWidth) {
+        const qsizetype cut = WrapPosition(cell, characters);
+        print(cell.first(cut), wraps++);
+        cell.remove(0, cut);
+    }
+    print(cell, wraps);
+    return wraps;
+}
+
+void PageWriter::advance(double height) {
+    mCurrentY += height;
+    if (mCurrentY + mLineHeight < mPageLimit)
+        return;
+    mCurrentY = mTopMargin;
+    mPageBreakPending = true;
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "column_layout.h"
+
+#include <QString>
+
+class PageSink;
+
+// Puts lines of text on pages: a small line printer with a fixed-pitch font, word wrap, table rows, rules, and a page
+// break that waits for the next line, so that a full last page is not followed by an empty one. Lengths in centimetres.
+class PageWriter {
+  public:
+    // Measures the page and the font. The sink outlives the writer. Raises what the sink raises.
+    PageWriter(PageSink &sink, const QString &fontName);
+
+    // Raises what the sink raises; nothing can be printed after that.
+    void PrintLine(const QString &Text, bool Bold, bool Columns, bool Ruled);
+
+    [[nodiscard]] int CharactersPerLine() const { return mCharactersPerLine; }
+    [[nodiscard]] const QString &FontName() const { return mFontName; }
+
+  private:
+    void servePageBreak();
+    void printRule();
+    void printWrapped(const QString &text, bool bold);
+    void PrintALine(const QString &text, bool bold);
+    void PrintColumns(const QString &text, bool bold, CellAlignment alignment);
+    // The number of lines that the cell takes beyond the first.
+    [[nodiscard]] int printCell(QString cell, int column, const ColumnLayout &layout, CellAlignment alignment);
+    void advance(double height);
+
+    PageSink &mSink;
+    int mCharactersPerLine = 1;
+    double mLineHeight = 0;
+    double mCharacterWidth = 0;
+    double mCurrentY = 0; // where the next line goes
+    double mTopMargin = 0;
+    double mLeftMargin = 0;
+    double mPageLimit = 0; // a line ends above it
+    double mTextWidth = 0;
+    QString mFontName;
+    bool mPageBreakPending = false;
+};
