@@ -48,9 +48,7 @@ QWidget *fldGridField::editingPart() const { return mTable; }
 
 GridTable &fldGridField::Table() { return *mTable; }
 
-const HostControls *fldGridField::FormControls() const {
-    return mFormControls != nullptr ? mFormControls : formControlsOf(*this);
-}
+const HostControls *fldGridField::FormControls() const { return formControlsOf(*this); }
 
 // Events.
 

@@ -28,10 +28,6 @@ class fldGridField final : public EditableField, public Igrid, public NavigatorG
     // Raises error 5 or 13 for a property that does not fit.
     fldGridField(const FieldServices &services, const FieldProperties &properties, QWidget *parent);
 
-    // The controls of the form, which outlive the grid. A grid without an add button looks for its navigator there, and
-    // Tab for the next control.
-    void SetFormControls(const HostControls &controls) { mFormControls = &controls; }
-
     // The commands of the buttons, for a navigator that owns the grid.
     void Add() override { mOperations.commands.cmdAdd_Click(); }
     void Delete() override { mOperations.deletion.cmdDelete_Click(); }
@@ -153,7 +149,6 @@ class fldGridField final : public EditableField, public Igrid, public NavigatorG
     GridOperations mOperations;
     GridEditCycle mCycle;
     GridHeads mHeads;
-    const HostControls *mFormControls = nullptr;
     int mRecordOperations = 0; // record operations under way
     bool mRowInserted = false;
 };

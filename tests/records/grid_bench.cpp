@@ -41,6 +41,7 @@ GridBench::~GridBench() {
     if (events.enabler != nullptr)
         events.enabler->UserControl_Terminate();
     events.enabler.reset();
+    window.enabler.reset();
     component.ShutDown();
 }
 
@@ -48,9 +49,10 @@ void GridBench::enter(QWidget &field, const QString &name, const TwipRect &place
     const auto *control = dynamic_cast<Ifield *>(&field);
     const QString typeName = dynamic_cast<fldGridField *>(&field) != nullptr ? QStringLiteral("fldGridField")
                                                                              : control->Ifield_GetTypeName();
-    auto host = std::make_unique<FieldHost>(field, FieldHost::Place{name, typeName, nullptr, qint32(mControls.size())});
+    auto host =
+        std::make_unique<FieldHost>(field, FieldHost::Place{name, typeName, nullptr, qint32(window.controls.size())});
     host->SetGeometry(place);
-    mControls.push_back(host.get());
+    window.controls.push_back(host.get());
     mHosts.push_back(std::move(host));
 }
 
@@ -59,18 +61,22 @@ fldGridField &GridBench::addGrid(const QString &fields, QVariantMap properties) 
     properties.insert(QStringLiteral("Dynamic"), true);
     if (!properties.contains(QStringLiteral("ID")))
         properties.insert(QStringLiteral("ID"), QStringLiteral("BenchGrid"));
-    auto &grid = add<fldGridField>(QStringLiteral("grid%1").arg(mControls.size()),
-                                   {{100}, {100 + qint32(mControls.size()) * 600}, {9000}, {4000}}, properties);
-    grid.SetFormControls(mControls);
+    auto &grid = add<fldGridField>(QStringLiteral("grid%1").arg(window.controls.size()),
+                                   {{100}, {100 + qint32(window.controls.size()) * 600}, {9000}, {4000}}, properties);
     return grid;
 }
 
-void GridBench::start(fldGridField &grid) {
-    events.enabler = std::make_shared<ctlFormEnabler>(mControls, services.fieldServices(), [this]() -> HostControl * {
-        const auto found = std::ranges::find_if(
-            mHosts, [](const auto &host) { return host->Widget()->isAncestorOf(QApplication::focusWidget()); });
-        return found == mHosts.end() ? nullptr : found->get();
+HostControl *BenchForm::Iusrfrm_ActiveControl() {
+    const auto found = std::ranges::find_if(controls, [](const HostControl *control) {
+        return dynamic_cast<const FieldHost *>(control)->Widget()->isAncestorOf(QApplication::focusWidget());
     });
+    return found == controls.end() ? nullptr : *found;
+}
+
+void GridBench::start(fldGridField &grid) {
+    events.enabler = std::make_shared<ctlFormEnabler>(window.controls, services.fieldServices(),
+                                                      [this] { return window.Iusrfrm_ActiveControl(); });
+    window.enabler = events.enabler;
     events.enabler->AccessControls();
     services.shell.changingForms = true;
     events.enabler->Ienabler_InitialiseFields(-1);

@@ -6,7 +6,7 @@
 #include "field_properties.h"
 #include "fld_grid_field.h"
 #include "focus_guard.h"
-#include "initialising_fields_guard.h"
+#include "iusrfrm.h"
 #include "test_services.h"
 #include "transformer_component.h"
 
@@ -27,6 +27,18 @@ class FormEvents final : public ComponentListener {
     void TransformerEvents_SetEnableDisableByUIID(const QString &UIID, bool Enable) override;
 };
 
+// The window as the form of the controls on it.
+class BenchForm final : public QWidget, public Iusrfrm {
+  public:
+    HostControls controls;
+    std::shared_ptr<ctlFormEnabler> enabler;
+
+    std::shared_ptr<Ienabler> Iusrfrm_Enabler() override { return enabler; }
+    void Iusrfrm_Terminate() override {}
+    const HostControls &Iusrfrm_Controls() override { return controls; }
+    HostControl *Iusrfrm_ActiveControl() override;
+};
+
 // A form with grids over the real component: enabler, focus guard and clipboard as in the program, the tier "Advanced".
 class GridBench {
   public:
@@ -36,7 +48,7 @@ class GridBench {
     FormEvents events;
     TestServices services{nullptr};
     TransformerComponent component;
-    QWidget window;
+    BenchForm window;
 
     template <class Field>
     Field &add(const QString &name, const TwipRect &place, const QVariantMap &properties) {
@@ -57,7 +69,6 @@ class GridBench {
     void enter(QWidget &field, const QString &name, const TwipRect &place);
 
     std::vector<std::unique_ptr<FieldHost>> mHosts;
-    HostControls mControls;
     FocusGuard mGuard;
 };
 
