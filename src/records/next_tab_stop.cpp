@@ -2,6 +2,8 @@
 
 #include "field_host.h"
 
+#include <QApplication>
+#include <QFocusEvent>
 #include <QWidget>
 
 namespace {
@@ -42,10 +44,17 @@ HostControl *NextTabStop(const HostControls &controls, qint32 tabIndex, TabDirec
 void focusByTab(HostControl &control, TabDirection direction) {
     const auto *host = dynamic_cast<const FieldHost *>(&control);
     QWidget *part = host == nullptr || host->Widget() == nullptr ? nullptr : host->Widget()->focusProxy();
-    if (part == nullptr)
-        control.SetFocus();
-    else
+    if (part != nullptr) {
         part->setFocus(reasonOf(direction));
+        return;
+    }
+    const QWidget *before = QApplication::focusWidget();
+    control.SetFocus();
+    QWidget *now = QApplication::focusWidget();
+    if (now == nullptr || now == before)
+        return;
+    QFocusEvent arrival(QEvent::FocusIn, reasonOf(direction));
+    QCoreApplication::sendEvent(now, &arrival);
 }
 
 void focusBeyond(QWidget &widget, TabDirection direction) {

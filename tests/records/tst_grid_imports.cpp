@@ -85,8 +85,6 @@ void tst_grid_imports::rowsAreDroppedOnAnotherGrid() {
     dropOn(GridBench::table(bench.other), bench.services.clipboard.Text());
     QCOMPARE(bench.frequencies(), channels({1, 2, 3, 2, 3}));
     QCOMPARE(GridBench::table(bench.other).ApproxCount(), 5);
-    QCoreApplication::processEvents();
-    QVERIFY(bench.showsItsData());
 }
 
 void tst_grid_imports::typedTextStaysInItsRecord() {

@@ -191,10 +191,8 @@ void tst_grid_records::tabRunsThroughTheCells() {
     WindowInput::key(Qt::Key_Tab);
     QVERIFY(below.hasFocus());
     QCOMPARE(below.currentCell(), (GridCell{0, 0}));
-    for (const char *part : {"cmdDelete", "cmdRepeat", "cmdInsert", "cmdAdd", "TDBGrid1"}) {
-        WindowInput::key(Qt::Key_Backtab, Qt::ShiftModifier);
-        QCOMPARE(QApplication::focusWidget()->objectName(), QString::fromLatin1(part));
-    }
+    WindowInput::key(Qt::Key_Backtab, Qt::ShiftModifier);
+    QVERIFY(bench.table().hasFocus());
     QCOMPARE(bench.table().currentCell(), (GridCell{1, 8}));
 }
 
