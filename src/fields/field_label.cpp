@@ -10,7 +10,8 @@ FieldLabel::FieldLabel(QWidget *parent) : QLabel(parent) {
     setWordWrap(true);
 }
 
-int FieldLabel::captionWidth() const { return fontMetrics().horizontalAdvance(plainCaption(text())); }
+// Text that is laid out with breaks needs a fraction of a pixel more than its rounded advance.
+int FieldLabel::captionWidth() const { return fontMetrics().horizontalAdvance(plainCaption(text())) + 1; }
 
 int FieldLabel::wrappedHeight(int width) const {
     return fontMetrics().boundingRect(QRect(0, 0, width, QWIDGETSIZE_MAX), textFlags(), text()).height();

@@ -36,7 +36,8 @@ Twips FormTexts::width(const QString &text) const {
     const auto known = mWidths.constFind(text);
     if (known != mWidths.constEnd())
         return *known;
-    return *mWidths.insert(text, mScale.ofMeasure({mMetrics.horizontalAdvance(text)}));
+    // One more, as a label counts itself.
+    return *mWidths.insert(text, mScale.ofMeasure({mMetrics.horizontalAdvance(text) + 1}));
 }
 
 Twips FormTexts::titleWidth(const QString &text) const {

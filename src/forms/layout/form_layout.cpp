@@ -8,7 +8,8 @@
 namespace {
 constexpr Twips kMargin{60};
 constexpr Twips kPageMargin{90};
-constexpr Twips kNavigatorHeight{540};
+constexpr Twips kNavigatorHeight{520};
+constexpr Twips kNavigatorGap{15};
 
 std::vector<const ControlDefinition *> pointers(const std::vector<ControlDefinition> &controls, bool navigators) {
     std::vector<const ControlDefinition *> result;
@@ -29,10 +30,14 @@ void take(FormGeometry &geometry, const Arrangement &arrangement, Twips room) {
 FormGeometry FormLayout::arrange(const FormDefinition &form) const {
     FormGeometry geometry;
     TwipRect area{kMargin, kMargin, kCanvas.width - kMargin - kMargin, kCanvas.height - kMargin - kMargin};
-    for (const ControlDefinition *navigator : pointers(form.controls, true)) {
-        area.height = area.height - kNavigatorHeight - kMargin;
+    const std::vector<const ControlDefinition *> navigators = pointers(form.controls, true);
+    // A navigator brings its own margins.
+    if (!navigators.empty())
+        area.height = area.height + kMargin;
+    for (const ControlDefinition *navigator : navigators) {
+        area.height = area.height - kNavigatorHeight - kNavigatorGap;
         geometry.places.insert(navigator->name,
-                               {area.left, area.top + area.height + kMargin, area.width, kNavigatorHeight});
+                               {area.left, area.top + area.height + kNavigatorGap, area.width, kNavigatorHeight});
     }
     const std::vector<const ControlDefinition *> onForm = pointers(form.controls, false);
     if (!onForm.empty())
