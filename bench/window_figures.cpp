@@ -62,6 +62,7 @@ class Probe {
 double medianStart(Probe &probe, const QStringList &words) {
     constexpr int kStarts = 7;
     std::vector<double> times;
+    times.reserve(kStarts);
     for (int start = 0; start < kStarts; ++start)
         times.push_back(probe.run(words));
     std::ranges::nth_element(times, times.begin() + kStarts / 2);

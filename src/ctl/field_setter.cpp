@@ -24,5 +24,7 @@ FieldSetter::Outcome FieldSetter::set(const FieldDefinition &field, RecordAddres
     const MessageDiversion messages(mSession.events());
     bool ok = false;
     mSession.transformer().SetValue(field.id, value, record.number, true, ok);
+    if (ok && !messages.text().isEmpty())
+        mSession.console().message(messages.text());
     return {.changed = ok, .refusal = ok ? QString() : messages.text()};
 }

@@ -12,14 +12,17 @@ qint32 ToolEvents::answer(qint32 buttons) const {
 
 void ToolEvents::TransformerEvents_MsgBox(const QString &Prompt, qint32 Buttons, const QString & /*Title*/,
                                           qint32 &Answer, const QString &strParameters) {
-    const QString text = Translation::Fill(Prompt, strParameters.split(u'|'));
+    tell(Translation::Fill(Prompt, strParameters.split(u'|')));
+    Answer = answer(Buttons);
+    if (Answer == MessageAnswer::kNo)
+        tell(QStringLiteral("(answered No; --yes answers Yes)"));
+}
+
+void ToolEvents::tell(const QString &text) {
     if (mDiverted != nullptr)
         mDiverted->append(text);
     else
         mConsole.message(text);
-    Answer = answer(Buttons);
-    if (Answer == MessageAnswer::kNo)
-        mConsole.message(QStringLiteral("(answered No; --yes answers Yes)"));
 }
 
 void ToolEvents::TransformerEvents_GeneralDialog(const QString &Prompt, qint32 Buttons, const QString &Title,

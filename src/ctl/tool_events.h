@@ -60,6 +60,7 @@ class ToolEvents final : public TransformerEvents, public ProgressEvents {
 
   private:
     [[nodiscard]] qint32 answer(qint32 buttons) const;
+    void tell(const QString &text);
 
     Console &mConsole;
     bool mYesToAll;
