@@ -17,9 +17,9 @@ StoredPositions::StoredPositions(Transformer &component, const HostControls &con
 
 void StoredPositions::Restore() const {
     for (const Position &position : mPositions) {
-        const bool moved = ValueText::of(mComponent.GetValue(position.storage, 1)) != position.value;
+        const qint32 before = ValueText::toIntegerOr(position.value, 0);
         bool accepted = false;
-        if (moved && ValueText::isNumeric(position.value))
-            mComponent.SetValue(position.storage, ValueText::toInteger(position.value), 1, true, accepted);
+        if (before > 0 && ValueText::of(mComponent.GetValue(position.storage, 1)) != position.value)
+            mComponent.SetValue(position.storage, before, 1, true, accepted);
     }
 }

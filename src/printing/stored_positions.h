@@ -14,7 +14,7 @@ class StoredPositions {
   public:
     // Reads them. The component outlives this object.
     StoredPositions(Transformer &component, const HostControls &controls);
-    // Writes back those that have changed, in the order of the navigators.
+    // Writes back those that have changed, in the order of the navigators; one that stood on no record has no way back.
     void Restore() const;
 
   private:

@@ -103,6 +103,7 @@ class tst_FrmPrint : public QObject {
     void tablesFramesAndRecordsOnPaper();
     void bannerNamesModelTimeAndFile();
     void formStandsUnderPrintWhileItIsPrinted();
+    void storedPositionsAreAsBefore_data();
     void storedPositionsAreAsBefore();
     void failureKeepsTheDialog_data();
     void failureKeepsTheDialog();
@@ -216,22 +217,32 @@ void tst_FrmPrint::formStandsUnderPrintWhileItIsPrinted() {
     QCOMPARE(dialog.bound.log.linesOf(u"Terminate"_s).size(), 1);
 }
 
+void tst_FrmPrint::storedPositionsAreAsBefore_data() {
+    QTest::addColumn<QVariant>("before");
+    QTest::addColumn<QString>("lastWrite");
+    QTest::newRow("moved") << QVariant(2) << u"SetValue(Pos, 2, 1, true)"_s;
+    QTest::newRow("the record that is printed last") << QVariant(3) << u"SetValue(Pos, 3, 1, true)"_s;
+    // Writing it back would be refused, with a message.
+    QTest::newRow("stood on no record") << QVariant(0) << u"SetValue(Pos, 3, 1, true)"_s;
+}
+
 void tst_FrmPrint::storedPositionsAreAsBefore() {
+    QFETCH(QVariant, before);
     Dialog dialog;
     auto &navigator = dialog.bound.add<FakeNavigator>(u"navGuide"_s);
     navigator.stream = 1;
     navigator.storageUIID = u"Pos"_s;
     RecordingTransformer &component = dialog.bound.component;
     component.when(u"GetNumberOfRecords"_s).answers(3);
-    component.when(u"GetValue"_s, u"Pos"_s).answers(2);
+    component.when(u"GetValue"_s, u"Pos"_s).answers(before);
     dialog.bound.enabler->AccessControls();
     dialog.find<QCheckBox>("chkPrintAll").setChecked(true);
-    // The double keeps no values: the last position that was written counts.
+    // The double keeps no values: while the records are printed the last of them counts as stored.
     component.when(u"GetValue"_s, u"Power"_s).runs([&component] {
         component.when(u"GetValue"_s, u"Pos"_s).answers(3);
     });
     dialog.click("cmdPrint");
-    QCOMPARE(dialog.bound.log.linesOf(u"SetValue"_s).last(), u"SetValue(Pos, 2, 1, true)"_s);
+    QTEST(dialog.bound.log.linesOf(u"SetValue"_s).last(), "lastWrite");
 }
 
 void tst_FrmPrint::failureKeepsTheDialog_data() {
