@@ -6,6 +6,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
 
@@ -37,7 +38,7 @@ void frmMain::Wiring::nameParts() {
 
 void frmMain::Wiring::connectCommands() {
     // A command that has no row comes with later work and stays disabled.
-    const std::array<std::pair<const char *, std::function<void()>>, 24> commands{{
+    const std::array<std::pair<const char *, std::function<void()>>, 27> commands{{
         {"mnuNew", [this] { documentCommands.mnuNew_Click(); }},
         {"mnuOpen", [this] { documentCommands.mnuOpen_Click(); }},
         {"mnuSave", [this] { documentCommands.mnuSave_Click(); }},
@@ -62,9 +63,13 @@ void frmMain::Wiring::connectCommands() {
         {"mnuWhatsThisHelp", [this] { help.mnuWhatsThisHelp_Click(); }},
         {"mnuMobilesSupport", [this] { webPages.mnuMobilesSupport_Click(); }},
         {"mnuHomePage", [this] { webPages.mnuHomePage_Click(); }},
+        {"mnuAbout", [this] { about.mnuAbout_Click(); }},
+        {"mnuFindField", [this] { findField.mnuFindField_Click(); }},
+        {"mnuMappingsGen", [this] { mapping.mnuMappingsGen_Click(); }},
     }};
     for (const auto &[name, command] : commands)
         menu.Connect(QString::fromLatin1(name), command);
+    addHiddenShortcuts();
     toolBarCommands.DisableUnconnected(standardBar);
     commandStates.EnableFormCommands(false);
     commandStates.EnableRevertToSaved(false);
@@ -82,4 +87,15 @@ void frmMain::Wiring::runStandardButton(const QString &key) {
         help.ShowFormTopic();
     else
         toolBarCommands.Run(key);
+}
+
+void frmMain::Wiring::addHiddenShortcuts() {
+    const std::array<std::pair<const char *, std::function<void()>>, 2> keys{{
+        {"Ctrl+F", [this] { findField.mnuFindField_Click(); }},
+        {"Ctrl+Shift+M", [this] { mapping.mnuMappingsGen_Click(); }},
+    }};
+    for (const auto &[key, command] : keys) {
+        const auto *shortcut = new QShortcut(QKeySequence(QString::fromLatin1(key)), &window);
+        QObject::connect(shortcut, &QShortcut::activated, &window, command);
+    }
 }
