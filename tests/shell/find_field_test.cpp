@@ -153,6 +153,7 @@ void FindFieldTest::aRefusedValueHoldsTheForm() {
     const frmFindField &window = find(QStringLiteral("power-on mode"));
     WindowInput::activate(mBench->window());
     mBench->usableFields().front()->Ifield_SetFocus();
+    WindowInput::key(Qt::Key_End); // the first key after a change of window may still go to the other one
     mBench->usableFields().front()->Ifield_SelectAll();
     WindowInput::type(QStringLiteral("999"));
     QCOMPARE(mBench->usableFields().front()->Ifield_GetValue().toString(), QStringLiteral("999"));
