@@ -7,6 +7,7 @@
 #include "field_details.h"
 #include "form_host.h"
 #include "green_ticks.h"
+#include "help_about_windows.h"
 #include "load_failure.h"
 #include "process_values.h"
 #include "shell_ports.h"
@@ -75,8 +76,7 @@ void EventSink::TransformerEvents_SetTierNodeGreenTick(bool HighlightForm) {
     mParts.ticks.SetTierNodeGreenTick(HighlightForm);
 }
 
-// The credits window comes with the About box; until then the event shows nothing.
-void EventSink::TransformerEvents_ShowCredits() {}
+void EventSink::TransformerEvents_ShowCredits() { mParts.about.ShowCredits(); }
 
 void EventSink::TransformerEvents_TerminateApplication() { mParts.processControl.EndNow(0); }
 

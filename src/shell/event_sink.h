@@ -12,6 +12,7 @@ class ErrorReport;
 class FieldDetails;
 class FormHost;
 class GreenTicks;
+class HelpAboutWindows;
 class Ienabler;
 class LoadFailure;
 class ProcessControl;
@@ -38,6 +39,7 @@ class EventSink final : public TransformerEvents {
         GreenTicks &ticks;
         LoadFailure &loadFailure;
         ProcessControl &processControl;
+        HelpAboutWindows &about;
     };
     EventSink(const ProcessValues &process, const Translation &translation, const Parts &parts, ErrorReport &errors);
 

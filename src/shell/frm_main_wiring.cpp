@@ -8,9 +8,9 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QToolBar>
-
 
 frmMain::Wiring::Wiring(frmMain &ownWindow, const ShellServices &services) : window(ownWindow), with(services) {
     with.process.objTransformer = &with.transformer;
@@ -66,9 +66,13 @@ void frmMain::Wiring::connectCommands() {
         {"mnuWhatsThisHelp", [this] { help.mnuWhatsThisHelp_Click(); }},
         {"mnuMobilesSupport", [this] { webPages.mnuMobilesSupport_Click(); }},
         {"mnuHomePage", [this] { webPages.mnuHomePage_Click(); }},
+        {"mnuAbout", [this] { about.mnuAbout_Click(); }},
+        {"mnuFindField", [this] { findField.mnuFindField_Click(); }},
+        {"mnuMappingsGen", [this] { mapping.mnuMappingsGen_Click(); }},
     };
     for (const auto &[name, command] : commands)
         menu.Connect(QString::fromLatin1(name), command);
+    addHiddenShortcuts();
     toolBarCommands.DisableUnconnected(standardBar);
     commandStates.EnableFormCommands(false);
     commandStates.EnableRevertToSaved(false);
@@ -98,4 +102,15 @@ void frmMain::Wiring::runStandardButton(const QString &key) {
         help.ShowFormTopic();
     else
         toolBarCommands.Run(key);
+}
+
+void frmMain::Wiring::addHiddenShortcuts() {
+    const std::pair<const char *, std::function<void()>> keys[] = {
+        {"Ctrl+F", [this] { findField.mnuFindField_Click(); }},
+        {"Ctrl+Shift+M", [this] { mapping.mnuMappingsGen_Click(); }},
+    };
+    for (const auto &[key, command] : keys) {
+        const auto *shortcut = new QShortcut(QKeySequence(QString::fromLatin1(key)), &window);
+        QObject::connect(shortcut, &QShortcut::activated, &window, command);
+    }
 }

@@ -15,6 +15,7 @@
 #include "field_details.h"
 #include "file_io.h"
 #include "filter_tabs.h"
+#include "find_field_command.h"
 #include "form_commands.h"
 #include "form_host.h"
 #include "form_nodes.h"
@@ -22,12 +23,14 @@
 #include "form_tree_widget.h"
 #include "frm_main.h"
 #include "green_ticks.h"
+#include "help_about_windows.h"
 #include "help_commands.h"
 #include "help_web_pages.h"
 #include "language_setup.h"
 #include "load_failure.h"
 #include "main_error_sink.h"
 #include "main_menu.h"
+#include "mapping_shell_adapter.h"
 #include "pane_layout.h"
 #include "preferences_command.h"
 #include "print_commands.h"
@@ -57,6 +60,8 @@ struct frmMain::Wiring {
     void connectCommands();
     // The help button opens the page of the form; every other button runs a menu command.
     void runStandardButton(const QString &key);
+    // A command whose menu entry is hidden has its key all the same.
+    void addHiddenShortcuts();
     void nameParts();
     void showNewLanguage();
     void showPreferences();
@@ -122,6 +127,8 @@ struct frmMain::Wiring {
     // Help
     HelpCommands help{with.process, with.transformer, with.translation, with.boxes, {window, host, nodes}, with.errors};
     HelpWebPages webPages{with.transformer, with.boxes, with.errors};
+    HelpAboutWindows about{with.transformer, with.translation, menu, window, with.errors};
+    FindFieldCommand findField{forForms, with.forms, pointer, {window, nodes, host, pane, navigation}};
 
     // Documents and radio
     DocumentShellAdapter documentShell{
@@ -134,6 +141,10 @@ struct frmMain::Wiring {
                          [this](InterrogationType type) { with.progressWindow(type, &window); }};
     PrintCommands print{forForms, {with.forms, nodes, host, pointer}, window};
 
+    // Development aids
+    MappingShellAdapter mapping{
+        with.process, with.boxes, with.errors, {window, host, [this] { documentCommands.ResetToDefaults(); }}};
+
     // Tiers, events, beginning and end
     Tiers tiers{with.transformer,
                 with.translation,
@@ -144,7 +155,7 @@ struct frmMain::Wiring {
     EventSink events{with.process,
                      with.translation,
                      {navigation, tiers, host, dialogs, userEvents, pointer, panels, details, commandStates, ticks,
-                      loadFailure, with.processControl},
+                      loadFailure, with.processControl, about},
                      with.errors};
     LanguageSetup language{
         with.transformer, with.translation, with.boxes, texts, with.errors, [this] { showNewLanguage(); }};

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QPalette>
 #include <QTabWidget>
 #include <QTest>
 
@@ -16,6 +17,12 @@ void linkHelp() {
     const QString here = QCoreApplication::applicationDirPath() + QStringLiteral("/kx4kp_en");
     if (!QFileInfo::exists(here))
         QFile::link(qEnvironmentVariable("KX4600_BIN") + QStringLiteral("/kx4kp_en"), here);
+}
+
+QPalette darkPalette() {
+    QPalette palette(QColor(53, 57, 62), QColor(40, 43, 47));
+    palette.setColor(QPalette::Highlight, QColor(42, 110, 190));
+    return palette;
 }
 } // namespace
 
@@ -70,7 +77,14 @@ std::vector<Ifield *> HelpBench::usableFields() {
 
 void HelpBench::picture(QWidget &widget, const QString &name) {
     const QString folder = qEnvironmentVariable("KX4600_PICTURES");
-    QCoreApplication::processEvents();
-    if (!folder.isEmpty())
-        widget.grab().save(folder + u'/' + name + QStringLiteral(".png"));
+    if (folder.isEmpty())
+        return;
+    const QPalette own = QApplication::palette();
+    for (const auto &[palette, suffix] :
+         {std::pair(own, QString()), std::pair(darkPalette(), QStringLiteral("-dark"))}) {
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+        widget.grab().save(folder + u'/' + name + suffix + QStringLiteral(".png"));
+    }
+    QApplication::setPalette(own);
 }

@@ -36,7 +36,7 @@ class HelpBench {
     void open(const Form &form);
     // The fields of the open form that show and are enabled, in their order.
     [[nodiscard]] std::vector<Ifield *> usableFields();
-    // Writes a picture where KX4600_PICTURES names a folder, for people to look at.
+    // Writes pictures in light and dark where KX4600_PICTURES names a folder, for people to look at.
     static void picture(QWidget &widget, const QString &name);
 
   private:

@@ -173,9 +173,7 @@ void MappingWindowTest::hookPointsRecordAndRevert() {
     bool ok = false;
     for (const char *value : {"30", "30", "40"}) {
         mBench->component().SetValue(QStringLiteral("EconomyTimer"), QString::fromLatin1(value), 0, true, ok);
-        qDebug() << ok << timer->Ifield_GetUIID() << timer->Ifield_GetTypeName() << timer->Ifield_GetRecordNr()
-                 << timer->Ifield_GetValue()
-                 << mBench->component().GetValue(timer->Ifield_GetUIID(), timer->Ifield_GetRecordNr());
+        timer->Ifield_SetValue(QString::fromLatin1(value), false);
         mWindow->MarkOriginalValue(item, validate);
         mWindow->FieldEvent(item, validate);
     }

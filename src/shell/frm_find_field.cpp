@@ -1,0 +1,66 @@
+#include "frm_find_field.h"
+
+#include "common_error_handler.h"
+#include "find_hit_delegate.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace {
+constexpr QSize kFirstSize(560, 420);
+}
+
+frmFindField::frmFindField(Services services, QWidget *parent)
+    : QDialog(parent, Qt::Tool), mServices(std::move(services)), mErrors(mServices.errors),
+      mTxtSearch(new QLineEdit(this)), mCmdFindLabel(new QPushButton(this)), mLstOutput(new QListWidget(this)) {
+    setObjectName(QStringLiteral("frmFindField"));
+    setWindowTitle(mServices.translate(QStringLiteral("Find Field")));
+    resize(kFirstSize);
+    mTxtSearch->setObjectName(QStringLiteral("txtSearch"));
+    mTxtSearch->setAccessibleName(mServices.translate(QStringLiteral("Label or name of a field")));
+    mTxtSearch->setPlaceholderText(mTxtSearch->accessibleName());
+    mCmdFindLabel->setObjectName(QStringLiteral("cmdFindLabel"));
+    mCmdFindLabel->setText(mServices.translate(QStringLiteral("&Find")));
+    mCmdFindLabel->setDefault(true); // Enter in the search text
+    mLstOutput->setObjectName(QStringLiteral("lstOutput"));
+    mLstOutput->setAccessibleName(mServices.translate(QStringLiteral("Fields found")));
+    mLstOutput->setItemDelegate(new FindHitDelegate(mLstOutput));
+    mLstOutput->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto *row = new QHBoxLayout;
+    row->addWidget(mTxtSearch);
+    row->addWidget(mCmdFindLabel);
+    auto *column = new QVBoxLayout(this);
+    column->addLayout(row);
+    column->addWidget(mLstOutput);
+    connect(mCmdFindLabel, &QPushButton::clicked, this, [this] { cmdFindLabel_Click(); });
+    connect(mLstOutput, &QListWidget::itemClicked, this, [this] { lstOutput_Click(); });
+    connect(mLstOutput, &QListWidget::itemActivated, this, [this] { lstOutput_DblClick(); });
+}
+
+void frmFindField::ShowAgain() {
+    show();
+    activateWindow();
+    mTxtSearch->setFocus();
+    mTxtSearch->selectAll();
+}
+
+void frmFindField::cmdFindLabel_Click() try {
+    mLstOutput->clear();
+    for (const QString &line : mServices.search(mTxtSearch->text())) {
+        auto *item = new QListWidgetItem(line, mLstOutput);
+        item->setToolTip(QString(line).replace(u'\t', QStringLiteral("   ")));
+    }
+}
+ERROR_TAIL()
+
+void frmFindField::lstOutput_DblClick() try {
+    const QListWidgetItem *item = mLstOutput->currentItem();
+    if (const auto hit = item == nullptr ? std::nullopt : FindFieldHit::FromLine(item->text()))
+        mServices.open(*hit);
+}
+ERROR_TAIL()
