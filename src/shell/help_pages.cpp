@@ -5,7 +5,7 @@
 
 QString HelpPages::folderOf(const QString &file) {
     const QFileInfo info(file);
-    const QString beside = info.path() + u'/' + info.completeBaseName();
+    QString beside = info.path() + u'/' + info.completeBaseName();
     if (QFileInfo(beside).isDir())
         return beside;
     return QDir::cleanPath(info.path() + QStringLiteral("/../share/kx4600/") + info.completeBaseName());

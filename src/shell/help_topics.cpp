@@ -37,6 +37,7 @@ std::vector<HelpTopic> HelpTopics::search(const QString &text) const {
     std::ranges::copy_if(mTopics, std::back_inserter(hits), [&words](const HelpTopic &topic) {
         return containsAll(topic.title + u' ' + topic.where + u' ' + topic.text, words);
     });
-    std::ranges::stable_partition(hits, [&words](const HelpTopic &topic) { return containsAll(topic.title, words); });
+    std::stable_partition(hits.begin(), hits.end(),
+                          [&words](const HelpTopic &topic) { return containsAll(topic.title, words); });
     return hits;
 }
