@@ -66,7 +66,7 @@ void readLimitsBy(const LoaderNames &names, FieldDefinition &field, const JsonRe
     reader.allow(kLimitsKeys);
     LimitsTable table;
     table.field = readTableField(names, field, reader);
-    for (const QJsonValue &entry : reader.array("limits"_L1)) {
+    for (const auto &entry : reader.array("limits"_L1)) {
         const QJsonArray pair = entry.toArray();
         if (pair.size() != 2)
             reader.refuse("limits"_L1, u"must hold pairs"_s);
@@ -78,7 +78,7 @@ void readLimitsBy(const LoaderNames &names, FieldDefinition &field, const JsonRe
     const FieldDefinition &by = names.definition(table.field);
     if (table.limits.empty() || (by.hasItems() && by.items.size() != table.limits.size()))
         reader.refuse("limits"_L1, u"needs a pair for each item of \"%1\""_s.arg(by.id));
-    for (const QJsonValue &value : reader.arrayOrEmpty("defaults"_L1)) {
+    for (const auto &value : reader.arrayOrEmpty("defaults"_L1)) {
         field.defaultBy.values.push_back(readValue(field, reader, "defaults"_L1, value));
         if (field.defaultBy.values.size() > table.limits.size())
             reader.refuse("defaults"_L1, u"must be as many as the limits"_s);
@@ -97,7 +97,7 @@ void readDefaultBy(const LoaderNames &names, FieldDefinition &field, const JsonR
     const JsonReader reader = owner.object("defaultBy"_L1);
     reader.allow(kDefaultByKeys);
     field.defaultBy.field = readTableField(names, field, reader);
-    for (const QJsonValue &value : reader.array("values"_L1)) {
+    for (const auto &value : reader.array("values"_L1)) {
         field.defaultBy.values.push_back(readValue(field, reader, "values"_L1, value));
         if (field.kind == FieldKind::Number)
             checkNumber(field, reader, "values"_L1, field.defaultBy.values.back(), field.limits.minimum,

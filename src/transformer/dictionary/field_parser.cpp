@@ -130,7 +130,7 @@ qint32 widestShown(const FieldDefinition &field) {
 void FieldParser::readFile(const JsonReader &file) {
     file.allow(kFileKeys);
     const StructureIndex structure = mNames.structure(file, "structure"_L1, file.text("structure"_L1));
-    for (const QJsonValue &entry : file.array("fields"_L1))
+    for (const auto &entry : file.array("fields"_L1))
         readField(file, structure, file.nested("fields"_L1, entry));
 }
 
@@ -191,7 +191,7 @@ void FieldParser::readNumber(FieldDefinition &field, const JsonReader &reader) c
         reader.refuse("max"_L1, u"lies below \"min\""_s);
     if (reader.has("step"_L1))
         field.limits.step = reader.scaled("step"_L1, reader.value("step"_L1), field.decimals);
-    for (const QJsonValue &raster : reader.arrayOrEmpty("rasters"_L1))
+    for (const auto &raster : reader.arrayOrEmpty("rasters"_L1))
         field.limits.rasters.push_back(reader.scaled("rasters"_L1, raster, 0));
     if (field.limits.step < 1 || std::ranges::any_of(field.limits.rasters, [](qint32 raster) { return raster < 1; }))
         reader.refuse(reader.has("rasters"_L1) ? "rasters"_L1 : "step"_L1, u"must be above 0"_s);
