@@ -48,14 +48,14 @@ QJsonObject DataFileReader::headerObject(const QByteArray &text) const {
 
 DataFileHeader DataFileReader::checkedHeader(const QJsonObject &object) const {
     const auto text = [&object](const char *key) { return object.value(QLatin1StringView(key)).toString(); };
-    const DataFileHeader header{.formatVersion = object.value(QStringLiteral("formatVersion")).toInt(),
-                                .tier = text("tier"),
-                                .radioModel = text("radioModel"),
-                                .databaseVersion = text("databaseVersion"),
-                                .applicationVersion = text("applicationVersion"),
-                                .date = text("date"),
-                                .networks = object.value(QStringLiteral("networks")).toInt(),
-                                .comment = text("comment")};
+    DataFileHeader header{.formatVersion = object.value(QStringLiteral("formatVersion")).toInt(),
+                          .tier = text("tier"),
+                          .radioModel = text("radioModel"),
+                          .databaseVersion = text("databaseVersion"),
+                          .applicationVersion = text("applicationVersion"),
+                          .date = text("date"),
+                          .networks = object.value(QStringLiteral("networks")).toInt(),
+                          .comment = text("comment")};
     if (header.formatVersion < 1)
         damaged(QStringLiteral("its header names no format version"));
     if (header.formatVersion > DataDocuments::kFormatVersion)
