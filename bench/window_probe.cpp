@@ -120,6 +120,7 @@ void pressKeys(MainProgram &program, PaintWatch &watch) {
     WindowInput::activate(program.Window());
     WindowInput::click(*editor);
     std::vector<double> times;
+    times.reserve(kKeys);
     for (int key = 0; key < kKeys; ++key) {
         watch.begin();
         QElapsedTimer timer;

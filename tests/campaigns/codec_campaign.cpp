@@ -52,7 +52,7 @@ class LoopLine final : public ByteLine {
         if (mPending.isEmpty())
             throw LinkFailure(LinkFault::CutOff);
         const qsizetype piece = std::min<qsizetype>(mPending.size(), 700);
-        const QByteArray bytes = mPending.first(piece);
+        QByteArray bytes = mPending.first(piece);
         mPending.remove(0, piece);
         return bytes;
     }

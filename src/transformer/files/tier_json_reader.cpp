@@ -99,7 +99,7 @@ QJsonArray TierJsonReader::childRows(const RecordStructure &child, const QJsonOb
     if (all.size() != qsizetype(parents) * (child.isFlat() ? child.perParent : 1))
         wrong(QStringLiteral("the number of records of %1 does not fit").arg(child.name));
     if (!child.isFlat()) {
-        const QJsonArray rows = all[parent - 1].toArray();
+        QJsonArray rows = all[parent - 1].toArray();
         checkCount(child, rows.size());
         return rows;
     }
