@@ -23,12 +23,7 @@ class FindFieldTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void initTestCase() {
-        mBench = std::make_unique<HelpBench>();
-        bool accepted = false; // makes Features and Alerts available
-        mBench->component().SetValue(QStringLiteral("SignallingType"), 1, 1, true, accepted);
-        QVERIFY(accepted);
-    }
+    void initTestCase() { mBench = std::make_unique<HelpBench>(); }
     void cleanupTestCase() { mBench.reset(); }
     void lines_data();
     void lines();
