@@ -29,7 +29,7 @@ fldTextField::fldTextField(const FieldServices &services, const FieldProperties 
 void fldTextField::readProperties(const FieldProperties &properties) {
     PropertyReader reader(properties);
     readLabel(reader, QStringLiteral("TextField"));
-    mText1->setText(reader.text(QStringLiteral("Text"), QStringLiteral("Text1")));
+    mText1->setText(reader.text(QStringLiteral("Text"), QString())); // no placeholder where there is no record
     mText2->setPlainText(reader.text(QStringLiteral("Text2"), QStringLiteral("Text2")));
     mDynamicHeight = reader.flag(QStringLiteral("DynamicHeight"), false);
     mReadOnly = reader.flag(QStringLiteral("ReadOnly"), false);

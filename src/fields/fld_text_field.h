@@ -11,7 +11,7 @@ class QPlainTextEdit;
 
 // A caption and a text. With DynamicHeight the text is a display of several lines, as high as the control.
 //
-// Properties: Caption ("TextField"), Text ("Text1"), Text2 ("Text2"), ID ("Undefined"), NavigatorStream (0),
+// Properties: Caption ("TextField"), Text ("Text1", not shown), Text2 ("Text2"), ID ("Undefined"), NavigatorStream (0),
 // LabelWidthFactor (0.6), DynamicHeight (false), ReadOnly (false), Enabled (true). A box starts enabled exactly when it
 // is not read-only; Enabled is the logical state alone.
 // Events: "Change" on every change of the text, "ManualValidate", "Escape".

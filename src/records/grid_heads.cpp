@@ -16,6 +16,7 @@ constexpr Twips kBesideColumns{340};
 constexpr Twips kLabelColumn{800};
 constexpr int kCaptionMargin = 12; // pixels
 constexpr int kFontMargin = 3;
+constexpr qint32 kShortList = 8;
 
 struct RowHeight {
     int dotsPerInch;
@@ -39,10 +40,29 @@ QString GridHeads::caption(const QString &uiid) const {
     return mServices.translation.NLSStr(label);
 }
 
+// The design's width, but room for the longest word of the caption and for the items of a short list.
 int GridHeads::pixelWidth(const TDBGrid &table, const ColumnDetails &details, const QString &caption) const {
-    if (details.width.count != 0)
-        return TwipScale::of(table).toPixels(details.width).count;
-    return table.fontMetrics().horizontalAdvance(caption) + kCaptionMargin;
+    const QFontMetrics metrics = table.fontMetrics();
+    if (details.width.count == 0)
+        return metrics.horizontalAdvance(caption) + kCaptionMargin;
+    int width = TwipScale::of(table).toPixels(details.width).count;
+    for (const QString &word : caption.split(u' '))
+        width = std::max(width, metrics.horizontalAdvance(word) + kCaptionMargin);
+    if (details.type == ColumnType::kCombo)
+        width = std::max(width, widestItem(metrics, details.uiid) + kCaptionMargin);
+    return width;
+}
+
+int GridHeads::widestItem(const QFontMetrics &metrics, const QString &uiid) const {
+    XArrayDB items;
+    qint32 scope = 0;
+    if (!mGrid.Component().GetComboItems(uiid, 1, items, scope) || items.UpperBound(1) >= kShortList)
+        return 0;
+    int width = 0;
+    for (qint32 row = 0; row <= items.UpperBound(1); ++row)
+        width =
+            std::max(width, metrics.horizontalAdvance(mServices.translation.NLSStr(items.Value(row, 0).toString())));
+    return width;
 }
 
 void GridHeads::SetColumns(GridModel &model, TDBGrid &table) const {

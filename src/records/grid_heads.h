@@ -4,6 +4,8 @@
 #include "grid_model.h"
 #include "window_services.h"
 
+#include <QFontMetrics>
+
 class TDBGrid;
 
 // Makes the columns of a grid as the component labels them, and the heads of its report.
@@ -19,6 +21,7 @@ class GridHeads {
 
   private:
     [[nodiscard]] QString caption(const QString &uiid) const;
+    [[nodiscard]] int widestItem(const QFontMetrics &metrics, const QString &uiid) const;
     [[nodiscard]] int pixelWidth(const TDBGrid &table, const ColumnDetails &details, const QString &caption) const;
 
     GridSurface &mGrid;
