@@ -31,6 +31,8 @@ python3 tools/check_structure.py
 count "structure" $?
 python3 tools/include_graph.py --check
 count "include graph of docs/architecture.md" $?
+python3 tools/translations.py --check
+count "translations" $?
 
 cmake --preset release >build-configure.log 2>&1
 configured=$?

@@ -18,7 +18,8 @@ trap finish EXIT
 package="$(ls "$root"/package/*.deb)"
 dpkg-deb -x "$package" "$root/tree"
 for file in share/applications/kx4600.desktop share/mime/packages/kx4600.xml share/man/man1/kx4600.1.gz \
-  share/icons/hicolor/scalable/apps/kx4600.svg lib/kx4600/libTransformer.so; do
+  share/icons/hicolor/scalable/apps/kx4600.svg lib/kx4600/libTransformer.so \
+  share/kx4600/KX4600.mld share/kx4600/kx4kp_en/topics.json; do
   [ -f "$root/tree/usr/$file" ] || { echo "The package lacks $file"; exit 1; }
 done
 
