@@ -71,7 +71,7 @@ bool EditOperations::accept(const FieldDefinition &field, RecordAddress record, 
     mNotifier.raiseValues(changes, {field.index, record, showsValue});
     mState.events.raise([](TransformerEvents &listener) { listener.TransformerEvents_FieldHasChanged(); });
     const QString where = record.number > 0 ? QStringLiteral(" (%1)").arg(record.number) : QString();
-    mState.events.lastAction(field.label, QStringLiteral(": %1%2").arg(shown, where));
+    mState.events.lastAction(field.label, QStringLiteral("= %1%2").arg(shown, where));
     mState.tellWriteFailure();
     return true;
 }

@@ -105,7 +105,7 @@ void ImportOperations::finish(const Grid &grid, const RecordImport::Outcome &out
     mState.events.raise([](TransformerEvents &listener) { listener.TransformerEvents_FieldHasChanged(); });
     mState.events.lastAction(
         QStringLiteral("Pasted"),
-        QStringLiteral(": %1 (%2)").arg(grid.structure->label).arg(outcome.changed + outcome.added));
+        QStringLiteral("%1 (%2)").arg(grid.structure->label).arg(outcome.changed + outcome.added));
     mState.tellWriteFailure();
 }
 

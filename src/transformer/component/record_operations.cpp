@@ -23,7 +23,7 @@ bool RecordOperations::finish(const RecordStructure &structure, const RecordResu
     mState.journal.record(mState.tier(), result.changes);
     mNotifier.raiseAfterRecords(result.changes);
     mState.events.raise([](TransformerEvents &listener) { listener.TransformerEvents_FieldHasChanged(); });
-    mState.events.lastAction(action, QStringLiteral(": %1").arg(structure.label));
+    mState.events.lastAction(action, structure.label);
     return true;
 }
 
