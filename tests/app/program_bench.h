@@ -41,8 +41,10 @@ class ProgramBench {
     // A part of a control, by its object name.
     template <class Part>
     [[nodiscard]] Part &part(const QString &control, const char *name) const {
-        auto *found = widget(control) == nullptr ? nullptr : widget(control)->findChild<Part *>(QLatin1String(name));
-        Q_ASSERT(found != nullptr);
+        const QWidget *owner = widget(control);
+        auto *found = owner == nullptr ? nullptr : owner->findChild<Part *>(QLatin1String(name));
+        if (found == nullptr)
+            qFatal("%s has no part %s", qPrintable(control), name);
         return *found;
     }
 

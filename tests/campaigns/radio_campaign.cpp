@@ -117,7 +117,7 @@ QString RadioCampaign::contentOf(RadioRun &run) const {
 }
 
 QString RadioCampaign::truthOf(RadioRun &run) const {
-    const QString told = toldBy(run.said());
+    QString told = toldBy(run.said());
     const QString content = contentOf(run);
     const bool verified = told == QStringLiteral("new content, verified");
     const bool open = told == QStringLiteral("old or new") && content != QStringLiteral("neither");

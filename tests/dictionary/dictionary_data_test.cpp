@@ -175,7 +175,7 @@ void DictionaryDataTest::checkColumns(const QString &form, const ControlDefiniti
     const QStringList parts = grid.property(QStringLiteral("Fields")).toString().split(u'|');
     QVERIFY2(mDictionary->structureOf(grid.id()).has_value(), qPrintable(grid.id()));
     for (qsizetype first = 0; first + kParts <= parts.size(); first += kParts) {
-        const QString id = parts[first + 1];
+        const QString &id = parts[first + 1];
         checkShown(form, id, parts[first + 3].trimmed());
         QCOMPARE(mDictionary->structureOf(id), mDictionary->structureOf(grid.id()));
         const bool isFrequency = mDictionary->find(id)->decimals == FieldDefinition::kFrequencyDecimals;

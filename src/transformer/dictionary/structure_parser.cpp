@@ -111,7 +111,7 @@ void readStructure(LoaderNames &names, JsonReader reader) {
 }
 
 void readVersions(LoaderNames &names, const JsonReader &file) {
-    for (const QJsonValue &entry : file.array("versions"_L1)) {
+    for (const auto &entry : file.array("versions"_L1)) {
         const JsonReader reader = file.nested("versions"_L1, entry);
         reader.allow(kVersionKeys);
         names.parts.versions.push_back({reader.integer("level"_L1), reader.text("name"_L1)});
@@ -123,7 +123,7 @@ void readVersions(LoaderNames &names, const JsonReader &file) {
 }
 
 void readTree(LoaderNames &names, const JsonReader &file) {
-    for (const QJsonValue &entry : file.arrayOrEmpty("tree"_L1)) {
+    for (const auto &entry : file.arrayOrEmpty("tree"_L1)) {
         JsonReader reader = file.nested("tree"_L1, entry);
         const QString form = reader.text("form"_L1);
         reader.setOwner(form);
@@ -137,7 +137,7 @@ void readTree(LoaderNames &names, const JsonReader &file) {
 
 void StructureParser::readTiers(LoaderNames &names, const JsonReader &file) {
     file.allow(kTierFileKeys);
-    for (const QJsonValue &entry : file.array("tiers"_L1)) {
+    for (const auto &entry : file.array("tiers"_L1)) {
         const JsonReader reader = file.nested("tiers"_L1, entry);
         reader.allow(kTierKeys);
         const QString key = reader.text("key"_L1);

@@ -24,7 +24,7 @@ QByteArray read(const QString &path) {
     if (file.size() > kGreatestBytes)
         throw FileProblem(QStringLiteral("The file %0:S is too big to be a data file."), {path});
     // One byte more than allowed shows a device or a file that grows, without reading it to its end.
-    const QByteArray bytes = file.read(kGreatestBytes + 1);
+    QByteArray bytes = file.read(kGreatestBytes + 1);
     if (file.error() != QFileDevice::NoError || bytes.size() > kGreatestBytes)
         throw FileProblem(QStringLiteral("The file %0:S could not be read: %1:S."), {path, file.errorString()});
     return bytes;

@@ -27,7 +27,7 @@ std::function<qint32(qint32)> ofFlat(std::function<qint32(qint32)> parents, qint
     };
 }
 
-RecordResult refused(RecordRefusal refusal) { return {{}, {}, std::move(refusal)}; }
+RecordResult refused(RecordRefusal refusal) { return {{}, {}, refusal}; }
 
 } // namespace
 

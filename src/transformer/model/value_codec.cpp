@@ -19,7 +19,7 @@ QString shownReference(const FieldDefinition &field, qint32 value) {
     const StructureIndex structure = field.to.structureOf(value);
     if (!structure.isValid())
         return kNone;
-    const QString identity = QString::number(field.to.identityOf(value));
+    QString identity = QString::number(field.to.identityOf(value));
     if (field.to.texts.isEmpty())
         return identity;
     const auto place = std::ranges::find(field.to.structures, structure) - field.to.structures.begin();

@@ -64,6 +64,7 @@ std::vector<FieldItem> ItemLists::identities(const FieldDefinition &field, Recor
     }
     std::ranges::sort(numbers);
     std::vector<FieldItem> result;
+    result.reserve(numbers.size());
     for (const qint32 number : numbers)
         result.push_back({QString::number(number), number});
     return result;

@@ -35,7 +35,8 @@ void flowControlPinsAreFree(const CrossCheck &check) {
     const auto pins = check.fields({u"DigitalIOPin"_s, u"DigitalIOAction"_s});
     if (!pins)
         return;
-    const auto [pin, action] = *pins;
+    const auto pin = std::get<0>(*pins);
+    const auto action = std::get<1>(*pins);
     for (const QString &id : {u"IOPRTS"_s, u"IOPCTS"_s}) {
         const std::optional<FieldIndex> line = check.field(id);
         if (!line || !check.inForce(*line, {}))
