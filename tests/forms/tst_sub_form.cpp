@@ -173,7 +173,7 @@ void press(const frmSubForm &window, const char *button) {
     WindowInput::click(*window.findChild<QPushButton *>(QString::fromLatin1(button)));
 }
 PlainNavigator &navigatorOf(const frmSubForm &window) {
-    return *dynamic_cast<PlainNavigator *>(window.findChild<QWidget *>(QStringLiteral("fldPageNavigator1")));
+    return dynamic_cast<PlainNavigator &>(*window.findChild<QWidget *>(QStringLiteral("fldPageNavigator1")));
 }
 } // namespace
 
@@ -365,7 +365,7 @@ void tst_sub_form::callUpsFollowTheirNavigator() {
         }
         return result.join(u' ');
     };
-    auto &navigator = *dynamic_cast<PlainNavigator *>(form->findChild<QWidget *>(QStringLiteral("fldPageNavigator1")));
+    auto &navigator = dynamic_cast<PlainNavigator &>(*form->findChild<QWidget *>(QStringLiteral("fldPageNavigator1")));
     navigator.Inavigator_Position(1);
     QCOMPARE(records(), QStringLiteral("1 2 3 4 5 6 7"));
     navigator.Inavigator_Position(3);

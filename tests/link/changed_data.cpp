@@ -35,7 +35,7 @@ void ChangedData::changeFields(bool (*areMeant)(FieldKind)) {
 }
 
 StoredValue ChangedData::other(const FieldDefinition &field, RecordAddress record) const {
-    const StoredValue present = mData.value(field.index, record);
+    StoredValue present = mData.value(field.index, record);
     switch (field.kind) {
     case FieldKind::Flag:
         return 1 - present.number();

@@ -1,7 +1,7 @@
 #include "scripted_grid_host.h"
 
 void ScriptedGridHost::frmField_ObjectEvent(const FieldEvent &Event) {
-    const QString name = Event.name();
+    const QString &name = Event.name();
     if (on)
         on(name);
     if (name == QStringLiteral("GetComboItems") || name == QStringLiteral("GetIDItems")) {
