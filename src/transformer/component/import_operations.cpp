@@ -103,9 +103,8 @@ void ImportOperations::finish(const Grid &grid, const RecordImport::Outcome &out
     mState.journal.record(mState.tier(), outcome.changes);
     mNotifier.raiseAfterImport(outcome.changes);
     mState.events.raise([](TransformerEvents &listener) { listener.TransformerEvents_FieldHasChanged(); });
-    mState.events.lastAction(
-        QStringLiteral("Pasted"),
-        QStringLiteral("%1 (%2)").arg(grid.structure->label).arg(outcome.changed + outcome.added));
+    mState.events.lastAction(QStringLiteral("Pasted"),
+                             QStringLiteral("%1 (%2)").arg(grid.structure->label).arg(outcome.changed + outcome.added));
     mState.tellWriteFailure();
 }
 
