@@ -16,7 +16,6 @@
 #include <QToolTip>
 
 #include <algorithm>
-#include <ctime>
 #include <functional>
 
 namespace {
@@ -68,16 +67,6 @@ class Channels : public GridBench {
     }
 };
 
-// Processor time of the fastest of five runs: the machine may be busy with other things.
-double milliseconds(const std::function<void()> &action) {
-    double fastest = 1e9;
-    for (int run = 0; run < 5; ++run) {
-        const std::clock_t start = std::clock();
-        action();
-        fastest = std::min(fastest, 1e3 * double(std::clock() - start) / CLOCKS_PER_SEC);
-    }
-    return fastest;
-}
 } // namespace
 
 class tst_grid_field final : public QObject {
@@ -104,7 +93,7 @@ class tst_grid_field final : public QObject {
     void refusedMoveSelectsNothing();
     void cutTextsHaveATip();
     void assistiveToolsReadAndWriteCells();
-    void twoThousandRowsAnswerAtOnce();
+    void twoThousandRowsAreFilledWalkedSelectedAndSorted();
 };
 
 void tst_grid_field::typingReplacesTheCellAndEnterGoesDown() {
@@ -539,35 +528,24 @@ void tst_grid_field::assistiveToolsReadAndWriteCells() {
     QCOMPARE(bench.table.editor().box().accessibleName(), QStringLiteral("Rx Frequency"));
 }
 
-// The times of the grid's own side; the component's are measured by themselves.
-void tst_grid_field::twoThousandRowsAnswerAtOnce() {
-    Channels bench(2000);
+// A full grid goes through the same commands as a small one; the benchmark tells how fast.
+void tst_grid_field::twoThousandRowsAreFilledWalkedSelectedAndSorted() {
+    constexpr qint32 kRows = 2000;
+    Channels bench(kRows);
     bench.start();
-    QCOMPARE(bench.table.ApproxCount(), 2000);
-    const double component = milliseconds([&] {
-        XArrayDB rows;
-        bool got = false;
-        bench.component.GetGridData(bench.grid.Igrid_GetUIIDList(), true, rows, 0, got);
-    });
-    const double refilled = milliseconds([&] { bench.events.enabler->Ienabler_RefreshGridByUIID(kId); });
-    const double moved = milliseconds([&] { key(Qt::Key_Down); });
-    const double turned = milliseconds([&] {
-        key(Qt::Key_Home, Qt::ControlModifier);
-        key(Qt::Key_End, Qt::ControlModifier);
-    });
-    const double selected = milliseconds([&] {
-        bench.table.RemoveSelBookmarks();
-        bench.grid.Ifield_SelectAll();
-    });
-    const double sorted = milliseconds([&] { Q_EMIT bench.table.horizontalHeader()->sectionClicked(kRxColumn); });
-    qInfo("GetGridData %.2f ms, refill %.2f ms, a move %.2f ms, to the ends %.2f ms, select all %.2f ms, sort %.2f ms",
-          component, refilled, moved, turned, selected, sorted);
-    constexpr double kAtOnce = 16;
-    QVERIFY(refilled - component < kAtOnce);
-    QVERIFY(moved < kAtOnce);
-    QVERIFY(turned < 2 * kAtOnce);
-    QVERIFY(selected < kAtOnce);
-    QVERIFY(sorted < kAtOnce);
+    bench.events.enabler->Ienabler_RefreshGridByUIID(kId);
+    QCOMPARE(bench.table.ApproxCount(), kRows);
+    key(Qt::Key_End, Qt::ControlModifier);
+    QCOMPARE(bench.table.currentCell().row, kRows - 1);
+    key(Qt::Key_Home, Qt::ControlModifier);
+    QCOMPARE(bench.table.currentCell().row, 0);
+    key(Qt::Key_Down);
+    QCOMPARE(bench.table.currentCell().row, 1);
+    bench.table.RemoveSelBookmarks();
+    bench.grid.Ifield_SelectAll();
+    QCOMPARE(qint32(bench.table.SelBookmarks().size()), kRows);
+    Q_EMIT bench.table.horizontalHeader()->sectionClicked(kRxColumn);
+    QCOMPARE(bench.table.ApproxCount(), kRows);
 }
 
 QTEST_MAIN(tst_grid_field)
