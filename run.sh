@@ -6,7 +6,7 @@ cd "$(dirname "$0")"
 
 tools/install_packages.sh build
 cmake --preset release >/dev/null
-cmake --build --preset release --target kx4600 kx4600ctl kx4600sim kx4600tour Transformer
+cmake --build --preset release --target kx4600 kx4600ctl kx4600sim kx4600tour Transformer kx_help kx_demo
 
 home="$PWD/build/run-home"
 mkdir -p "$home/config" "$home/data" "$home/state" "$home/documents"
@@ -15,6 +15,15 @@ export XDG_CONFIG_HOME="$home/config" XDG_DATA_HOME="$home/data" XDG_STATE_HOME=
 if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   echo "No display: running the headless tour."
   exec build/bin/kx4600tour build/tour
+fi
+
+# The demonstration fleet waits in the recent files of the first run.
+fleet="$home/documents/harbour_cabs.k4p"
+settings="$home/config/KX4600/settings.ini"
+[ -e "$fleet" ] || cp build/demo/harbour_cabs.k4p "$fleet"
+if [ ! -e "$settings" ]; then
+  mkdir -p "$(dirname "$settings")"
+  printf '[General]\nMRUNum=1\nMRU1=%s\nDataDirectory=%s\n' "$fleet" "$home/documents" >"$settings"
 fi
 
 port="$(mktemp -d)/radio"

@@ -1,0 +1,27 @@
+# Makes the demonstration file from the tables of this folder: cmake -DTOOL=kx4600ctl -DOUTPUT=FILE -P make_demo.cmake
+# A row of a table that the component refuses ends the build.
+cmake_policy(VERSION 3.25)
+include(${CMAKE_CURRENT_LIST_DIR}/tables.cmake)
+
+function(run_tool)
+  execute_process(COMMAND ${TOOL} ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE said ERROR_VARIABLE said)
+  if(NOT result EQUAL 0)
+    message(FATAL_ERROR "kx4600ctl ${ARGN}:\n${said}")
+  endif()
+endfunction()
+
+cmake_path(GET OUTPUT PARENT_PATH folder)
+file(MAKE_DIRECTORY ${folder})
+set(work ${OUTPUT}.new.k4p)
+run_tool(new --tier Advanced -o ${work})
+foreach(table IN LISTS KX_DEMO_TABLES)
+  string(REPLACE "=" ";" table ${table})
+  list(GET table 0 guide)
+  list(GET table 1 name)
+  run_tool(import ${work} --record ${guide} ${CMAKE_CURRENT_LIST_DIR}/${name})
+endforeach()
+file(STRINGS ${CMAKE_CURRENT_LIST_DIR}/${KX_DEMO_SETTINGS} settings REGEX "^[^#]")
+run_tool(set ${work} ${settings})
+run_tool(check ${work})
+file(RENAME ${work} ${OUTPUT})
+file(REMOVE ${work}.bak)
