@@ -4,6 +4,7 @@
   tools/translations.py              reports missing, stale and unsound rows of each language
   tools/translations.py --check      the same, and exits with 1 if there are any
   tools/translations.py --missing 2  prints the missing texts of language 2 as rows to be filled in
+  tools/translations.py --add 2 FILE puts the filled-in rows of the file into language 2 (- reads standard input)
   tools/translations.py --all        prints every text with the first place where it stands
 
 A text is whatever the window may show: labels, list items and names of the dictionary, captions of the form
@@ -20,6 +21,7 @@ ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 TABLE = os.path.join(ROOT, "translations", "KX4600.mld")
 EXCEPTIONS = os.path.join(ROOT, "translations", "not_translated.txt")
 LANGUAGES = {2: "French", 3: "Chinese", 4: "Spanish"}
+CODE_PAGES = {2: "cp1252", 3: "gbk", 4: "cp1252"}  # of the systems that the window offers the language on
 
 # Programs without a window, and errors in files that come with the program: never shown by it.
 UNSHOWN_FOLDERS = ("src/ctl", "src/sim", "src/forms/definitions", "src/transformer/dictionary", "src/transformer/wire",
@@ -47,7 +49,7 @@ def reads_as_text(literal: str) -> bool:
     if not has_words(literal) or literal.startswith(("/", "<", "{", "*.", "mnu", "usrctl")) or '":' in literal:
         return False
     plain = literal.replace("&", "")
-    if re.fullmatch(r"[A-Z][a-z]+(\.\.\.|[.:])?", plain) or re.fullmatch(r"&[A-Z]+", literal):
+    if re.fullmatch(r"OK|[A-Z][a-z]+(\.\.\.|[.:])?", plain) or re.fullmatch(r"&[A-Z]+", literal):
         return True
     return " " in literal.strip() and re.search(r"[a-z]{2}", literal) is not None
 
@@ -176,9 +178,15 @@ def access_keys(text: str) -> int:
     return len(re.findall(r"&[^&\s]", text.replace("&&", "")))
 
 
-def unsound(text: str, translation: str):
+def fits_code_page(language: int, text: str) -> bool:
+    return text.encode(CODE_PAGES[language], "ignore").decode(CODE_PAGES[language]) == text
+
+
+def unsound(language: int, text: str, translation: str):
     if not translation.strip():
         return "empty"
+    if not fits_code_page(language, translation):
+        return f"characters that {CODE_PAGES[language]} lacks"
     if placeholders(text) != placeholders(translation):
         return "other placeholders"
     if access_keys(text) != access_keys(translation):
@@ -192,7 +200,24 @@ def escaped(text: str) -> str:
     return text.replace("\\", "\\\\").replace("\n", "\\n").replace("\t", "\\t").replace("\r", "\\r")
 
 
+def add_rows(language: int, name: str):
+    """Filled-in rows replace those of the same text; rows without a translation are passed over."""
+    with sys.stdin if name == "-" else open(name, encoding="utf-8") as file:
+        rows = [line.rstrip("\n").split("\t", 1) for line in file if "\t" in line]
+    table, _ = read_table()
+    for text, translation in rows:
+        if translation.strip():
+            table.setdefault(language, {})[unescaped(text)] = unescaped(translation)
+    with open(TABLE, "w", encoding="utf-8") as file:
+        for number in sorted(table):
+            file.write(f"[{number}]\n")
+            file.writelines(f"{escaped(text)}\t{escaped(table[number][text])}\n" for text in sorted(table[number]))
+
+
 def main(arguments) -> int:
+    if arguments[:1] == ["--add"]:
+        add_rows(int(arguments[1]), arguments[2])
+        return 0
     exceptions = read_exceptions()
     texts = Texts()
     read_dictionary(texts)
@@ -208,17 +233,18 @@ def main(arguments) -> int:
             print(f"{escaped(text)}\t")
         return 0
     complaints += [f"not_translated.txt: stale: {escaped(text)}" for text, uses in exceptions.items() if uses == 0]
-    for language, rows in sorted(table.items()):
+    for language in LANGUAGES:
+        rows = table.get(language, {})
         missing = sorted(set(texts.places) - set(rows))
         stale = sorted(set(rows) - set(texts.places) - texts.help)
         complaints += [f"[{language}] missing: {escaped(text)} ({texts.places[text][0]})" for text in missing]
         complaints += [f"[{language}] stale: {escaped(text)}" for text in stale]
         for text, translation in rows.items():
-            problem = unsound(text, translation)
+            problem = unsound(language, text, translation)
             if problem:
                 complaints.append(f"[{language}] {problem}: {escaped(text)}")
         helped = len(texts.help & set(rows))
-        print(f"{LANGUAGES.get(language, language)}: {len(rows) - helped} rows for {len(texts.places)} texts, "
+        print(f"{LANGUAGES[language]}: {len(rows) - helped} rows for {len(texts.places)} texts, "
               f"{helped} of {len(texts.help)} help texts")
     print("\n".join(complaints))
     return 1 if complaints and arguments[:1] == ["--check"] else 0

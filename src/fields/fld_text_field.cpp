@@ -4,6 +4,7 @@
 #include "drag_payload.h"
 #include "field_properties.h"
 #include "transformer.h"
+#include "translation.h"
 #include "value_text.h"
 
 #include <QKeyEvent>
@@ -138,7 +139,9 @@ qint32 fldTextField::Ifield_GetEditOperations() {
 }
 
 bool fldTextField::Ifield_SetValue(const QVariant &Value, bool blnValidate) try {
-    mActive->setText(ValueText::isUndefined(Value) ? QString() : ValueText::of(Value));
+    const QString text = ValueText::isUndefined(Value) ? QString() : ValueText::of(Value);
+    // What is only shown is shown in the user's language; what can be edited goes back to the component as it stands.
+    mActive->setText(mReadOnly ? services().translation.NLSStr(text) : text);
     return !blnValidate || raiseManualValidate();
 }
 ERROR_TAIL_AS("TextField SetValue", false)

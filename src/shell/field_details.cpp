@@ -69,8 +69,8 @@ ERROR_TAIL()
 void FieldDetails::DragOver(const QString &UIID, const QString &target) try {
     const QString label = mTransformer.GetLabel(UIID);
     const bool named = !label.isEmpty() && !ValueText::isUndefined(label);
-    const QString description = (named ? label : UIID) + QStringLiteral(" ") +
-                                mTranslation.NLSStr(named ? QStringLiteral("setting") : QStringLiteral("details"));
+    const QString pattern = named ? QStringLiteral("%0:s setting") : QStringLiteral("%0:s details");
+    const QString description = Translation::Piece(pattern, {named ? label : UIID});
     // The pattern brings the blank itself.
     const QString start = TrimBlanks(mTranslation.NLSStr(QStringLiteral("copy the ")));
     mPanels.Show(StatusPanels::kDrag, mTranslation.NLSFmt(QStringLiteral("%0:s %1:S to the %2:s"),

@@ -3,6 +3,7 @@
 #include "common_error_handler.h"
 #include "field_details.h"
 #include "transformer.h"
+#include "translation.h"
 #include "value_text.h"
 
 #include <QMimeData>
@@ -20,7 +21,7 @@ TierDrag::TierDrag(Transformer &transformer, TierButtons &buttons, FieldDetails 
 }
 
 QString TierDrag::target(qint32 button) const {
-    return mButtons.Caption(button).trimmed() + QStringLiteral(" radio model");
+    return Translation::Piece(QStringLiteral("%0:S radio model"), {mButtons.Caption(button).trimmed()});
 }
 
 bool TierDrag::tbrTiers_OLEDragOver(const QMimeData *data, const QPoint &position) try {
