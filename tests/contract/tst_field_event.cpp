@@ -38,8 +38,8 @@ void tst_FieldEvent::writtenParametersReachTheRaiser() {
     QString label = u"before"_s;
     bool accepted = false;
     const FieldEvent event(u"GetLabel"_s, in(u"Name"_s), out(label), out(accepted));
-    const FieldEvent copy = event; // a copy still refers to the raiser's variables
-    const auto [uiid, written, result] = copy.unpack<QString, QString &, bool &>();
+    const QList<FieldEvent> copies{event}; // a copy still refers to the raiser's variables
+    const auto [uiid, written, result] = copies.first().unpack<QString, QString &, bool &>();
     QCOMPARE(written, u"before"_s);
     written = u"after"_s;
     result = true;
