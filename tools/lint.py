@@ -18,13 +18,16 @@ import shlex
 import subprocess
 import sys
 import tempfile
+from bisect import bisect_left
 from concurrent.futures import ThreadPoolExecutor
+from itertools import accumulate
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 MEMORY = Path(os.environ.get("XDG_CACHE_HOME") or Path.home() / ".cache") / "kx4600-lint"
 LONGEST_BATCH = 12
 OUTPUT = re.compile(r" -o (\S+)")
+LOCATION = re.compile(r"^(/[^:]+):(\d+):\d+: error: ", re.MULTILINE)
 FORWARD = re.compile(r"^(?:class|struct) (\w+);", re.MULTILINE)
 DEFINED = re.compile(r"^#define (\w+)", re.MULTILINE)
 
@@ -84,7 +87,7 @@ def batches_of(sources: list[Source]) -> list[list[Source]]:
 
 class Lint:
     def __init__(self, build: str) -> None:
-        self.build = build
+        self.build = os.path.abspath(build)
         self.commands = {}
         for one in json.loads(Path(build, "compile_commands.json").read_text(encoding="utf-8")):
             self.commands[os.path.abspath(os.path.join(one["directory"], one["file"]))] = one["command"]
@@ -120,21 +123,19 @@ class Lint:
             return self.check_one(batch[0])
         flags = dict.fromkeys(flag for source in batch for flag in joined(source.flags))
         folders = dict.fromkeys(f"-I{os.path.dirname(source.name)}" for source in batch)
+        parts = [f"#define main main_of_{number}\n{source.text}\n#undef main\n" for number, source in enumerate(batch)]
         with tempfile.NamedTemporaryFile("w", suffix=".cpp", dir=self.build, encoding="utf-8") as together:
-            for number, source in enumerate(batch):
-                together.write(f"#define main main_of_{number}\n{source.text}\n#undef main\n")
+            together.write("".join(parts))
             together.flush()
             run = subprocess.run(
                 ["clang-tidy", "--quiet", f"--config-file={ROOT}/.clang-tidy", together.name, "--",
                  *(word for flag in flags for word in flag.split(" ")), *folders],
                 capture_output=True, text=True, check=False)
-        if run.returncode == 0:
-            for source in batch:
+        suspects = suspects_of(run.stdout, together.name, parts) if run.returncode else set()
+        for number, source in enumerate(batch):
+            if number not in suspects:
                 self.remember(source)
-            return 0
-        if os.environ.get("KX_LINT_VERBOSE"):
-            print(run.stdout, flush=True)
-        return max([self.check_one(source) for source in batch])
+        return max((self.check_one(batch[number]) for number in suspects), default=0)
 
     def check_one(self, source: Source) -> int:
         run = subprocess.run(["clang-tidy", "-p", self.build, "--quiet", source.name], capture_output=True, text=True,
@@ -144,6 +145,15 @@ class Lint:
         else:
             print(run.stdout, flush=True)
         return run.returncode
+
+
+def suspects_of(report: str, together: str, parts: list[str]) -> set[int]:
+    """The files of a batch that the report speaks of; all of them where it speaks of a header or they do not compile."""
+    ends = list(accumulate(part.count("\n") for part in parts))
+    found = LOCATION.findall(report)
+    if not found or "clang-diagnostic" in report or any(path != together for path, _ in found):
+        return set(range(len(parts)))
+    return {bisect_left(ends, int(line)) for _, line in found}
 
 
 def joined(flags: list[str]) -> list[str]:
