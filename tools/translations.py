@@ -200,13 +200,13 @@ def escaped(text: str) -> str:
     return text.replace("\\", "\\\\").replace("\n", "\\n").replace("\t", "\\t").replace("\r", "\\r")
 
 
-def add_rows(language: int, name: str):
-    """Filled-in rows replace those of the same text; rows without a translation are passed over."""
+def add_rows(language: int, name: str, texts: Texts):
+    """Filled-in rows replace those of the same text; rows without a translation or for no text are passed over."""
     with sys.stdin if name == "-" else open(name, encoding="utf-8") as file:
         rows = [line.rstrip("\n").split("\t", 1) for line in file if "\t" in line]
     table, _ = read_table()
     for text, translation in rows:
-        if translation.strip():
+        if translation.strip() and unescaped(text) in texts.places.keys() | texts.help:
             table.setdefault(language, {})[unescaped(text)] = unescaped(translation)
     with open(TABLE, "w", encoding="utf-8") as file:
         for number in sorted(table):
@@ -215,9 +215,6 @@ def add_rows(language: int, name: str):
 
 
 def main(arguments) -> int:
-    if arguments[:1] == ["--add"]:
-        add_rows(int(arguments[1]), arguments[2])
-        return 0
     exceptions = read_exceptions()
     texts = Texts()
     read_dictionary(texts)
@@ -226,6 +223,9 @@ def main(arguments) -> int:
     if arguments[:1] == ["--all"]:
         for text, places in sorted(texts.places.items()):
             print(f"{escaped(text)}\t{places[0]}")
+        return 0
+    if arguments[:1] == ["--add"]:
+        add_rows(int(arguments[1]), arguments[2], texts)
         return 0
     table, complaints = read_table()
     if arguments[:1] == ["--missing"]:
