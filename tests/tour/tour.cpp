@@ -134,6 +134,8 @@ void Tour::read() {
     expect(QStringLiteral("SerialNumber"), mSerialNumber);
     require(mProgram->Component().GetCurrentTier() == QStringLiteral("Advanced"),
             QStringLiteral("the radio's tier is not the current one"));
+    require(mProgram->Window().windowTitle().contains(mSerialNumber),
+            QStringLiteral("the title does not name the radio: %1").arg(mProgram->Window().windowTitle()));
     picture(QStringLiteral("after-reading"));
 }
 
