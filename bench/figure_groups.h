@@ -8,4 +8,5 @@ void component(Figures &figures); // dictionary, model, files, checks, grids
 void process(Figures &figures);   // kx4600ctl as a whole process
 void window(Figures &figures);    // the real window, offscreen, in processes of its own
 void radio(Figures &figures);     // over the simulated radio as a process of its own
+void repaint(Figures &figures);   // the real window during radio operations, offscreen
 } // namespace FigureGroups

@@ -1,7 +1,9 @@
 #include "radio_operation_window.h"
 
+#include "frm_port_choice.h"
 #include "process_values.h"
 #include "progress_info.h"
+#include "radio_port_search.h"
 #include "serial_ports.h"
 #include "transformer.h"
 #include "value_text.h"
@@ -22,6 +24,15 @@ QString portName(Transformer &transformer) {
 
 void runRadioOperation(ProcessValues &process, const Translation &translation, ErrorReport &errors,
                        InterrogationType type, QWidget *owner) {
-    frmProgressInfo window(process, translation, errors, type, portName(*process.objTransformer), owner);
-    window.exec();
+    const auto runOnce = [&](InterrogationType operation) {
+        frmProgressInfo window(process, translation, errors, operation, portName(*process.objTransformer), owner);
+        window.exec();
+        return RadioContact{.answered = window.RadioAnswered(), .noRadio = window.NoRadio()};
+    };
+    const auto choose = [&](const QString &problem, int storedNumber) {
+        const SerialPorts ports;
+        frmPortChoice window(translation, ports, problem, storedNumber, owner);
+        return window.exec() == QDialog::Accepted ? window.PortNumber() : 0;
+    };
+    RadioPortSearch(process, runOnce, choose).Run(type);
 }

@@ -7,6 +7,7 @@ class QWidget;
 class Translation;
 struct ProcessValues;
 
-// Runs one radio operation in its modal window and returns when that has closed.
+// Runs one radio operation in its modal window, offers other ports where it reaches no radio, and returns when the
+// windows have closed.
 void runRadioOperation(ProcessValues &process, const Translation &translation, ErrorReport &errors,
                        InterrogationType type, QWidget *owner);

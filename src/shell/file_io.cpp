@@ -3,6 +3,7 @@
 #include "common_error_handler.h"
 #include "message_style.h"
 #include "product_identity.h"
+#include "radio_models.h"
 #include "setting.h"
 #include "string_utilities.h"
 #include "transformer.h"
@@ -15,7 +16,6 @@
 
 namespace {
 const QString kAllFiles = QStringLiteral("All Files (*.*)|*.*");
-constexpr double kNoSerialNumber = 19000000; // that of a radio that never got one
 
 struct ExtensionLabel {
     QLatin1String extension;
@@ -102,10 +102,8 @@ QString clsFileIO::DefaultFileName() const {
         const bool hasExtension = info.suffix().compare(extension, Qt::CaseInsensitive) == 0;
         return hasExtension ? info.fileName() : info.fileName() + u'.' + extension;
     }
-    const QVariant serial = transformer.GetValue(QStringLiteral("SerialNumber"), 0);
-    if (ValueText::number(serial).value_or(kNoSerialNumber) == kNoSerialNumber)
-        return modelFileName();
-    return transformer.GetRadioModel() + QStringLiteral(" - ") + TrimBlanks(ValueText::of(serial)) + u'.' + extension;
+    const QString radio = RadioModels::RadioName(transformer);
+    return radio.isEmpty() ? modelFileName() : radio + u'.' + extension;
 }
 
 bool clsFileIO::RequestSaveFile(const QString &strFileName, bool blnPrompt) try {

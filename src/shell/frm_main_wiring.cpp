@@ -58,6 +58,7 @@ void frmMain::Wiring::connectCommands() {
         {"mnuReadRadio", [this] { radio.mnuRead_Click(); }},
         {"mnuProgramRadio", [this] { radio.mnuProgram_Click(); }},
         {"mnuInterrogateRadio", [this] { radio.mnuInterrogateRadio_Click(); }},
+        {"mnuDownload", [this] { download.mnuDownload_Click(); }},
         {"mnuValidateForm", [this] { formCommands.mnuValidateForm_Click(); }},
         {"mnuRevertForm", [this] { formCommands.mnuRevertForm_Click(); }},
         {"mnuAccept", [this] { formCommands.mnuAccept_Click(); }},

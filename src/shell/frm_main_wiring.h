@@ -8,6 +8,8 @@
 #include "document_commands.h"
 #include "document_front.h"
 #include "document_shell_adapter.h"
+#include "download_command.h"
+#include "downloader.h"
 #include "edit_commands.h"
 #include "edit_shortcuts.h"
 #include "event_sink.h"
@@ -139,6 +141,8 @@ struct frmMain::Wiring {
     DocumentFront documents{documentCommands, fileIO, nodes};
     clsTalkToRadio radio{with.process, documentShell, with.boxes, with.errors,
                          [this](InterrogationType type) { with.progressWindow(type, &window); }};
+    LocalDownloader downloader;
+    clsDownloadCommand download{with.process, downloader, with.boxes, with.errors};
     PrintCommands print{forForms, {with.forms, nodes, host, pointer}, window};
 
     // Development aids

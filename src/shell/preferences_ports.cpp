@@ -16,7 +16,7 @@ std::vector<PreferencesPort> PreferencesPorts::list(const SerialPorts &ports, co
         QString text = QStringLiteral("COM%1:").arg(entry.number);
         if (entry.number != storedNumber && !ports.IsComPortAvailable(entry.number))
             text = translation.NLSFmt(QStringLiteral("%0:S (unavailable)"), text);
-        result.push_back({entry.number, text, tipOf(entry)});
+        result.push_back({entry.number, text, tipOf(entry), entry.device, entry.name});
     }
     return result;
 }

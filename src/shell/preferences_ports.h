@@ -12,6 +12,8 @@ struct PreferencesPort {
     int number = 0;
     QString text; // "COM1:", translated "COM1: (unavailable)"
     QString tip;  // the device, with its name where it has one
+    QString device;
+    QString name; // may be empty
 };
 
 namespace PreferencesPorts {

@@ -219,6 +219,11 @@ void frmProgressInfo::mobjTransformerEvents_RadioInfo(const QString &strRadioMod
 }
 ERROR_TAIL()
 
+void frmProgressInfo::mobjTransformerEvents_NoRadio(const QString &Prompt, const QString &strParameters) try {
+    mNoRadio = mTranslation.NLSFmt(Prompt, strParameters);
+}
+ERROR_TAIL()
+
 void frmProgressInfo::ProgressBarStart(qint32 Max, const QString &Title) {
     mPhaseRuns = true;
     ProgressBar1->setVisible(Max >= 1);
@@ -274,6 +279,7 @@ void frmProgressInfo::RadioInfo(const QString &Tier, const QString &SWVersion, c
                                                              {lblDBVersion, DBVersion},
                                                              {lblHardwareRev, HardwareRev},
                                                              {lblProductCode, ProductCode}}};
+    mRadioAnswered = true;
     for (const auto &[label, text] : texts) {
         label->setText(text);
         label->setAccessibleDescription(text);

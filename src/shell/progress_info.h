@@ -1,6 +1,7 @@
 #pragma once
 
 #include "interrogation_type.h"
+#include "no_radio_events.h"
 #include "process_values.h"
 #include "progress_events.h"
 
@@ -15,7 +16,7 @@ class Translation;
 
 // The modal window of one radio operation: starts it once it is shown, and shows its phases, the radio's details and
 // how it ended. Programming cannot be cancelled.
-class frmProgressInfo final : public QDialog, private ProgressEvents {
+class frmProgressInfo final : public QDialog, public ProgressEvents, public NoRadioEvents {
     Q_OBJECT
   public:
     // portName names the port in the window, for example "COM1: Simulated radio".
@@ -30,6 +31,10 @@ class frmProgressInfo final : public QDialog, private ProgressEvents {
 
     // A read: whether the radio's data were taken. False before the end.
     [[nodiscard]] bool Result() const { return mResult; }
+    // A radio has told what it is.
+    [[nodiscard]] bool RadioAnswered() const { return mRadioAnswered; }
+    // Why no radio could be reached, translated; "" otherwise. The caller is to tell it.
+    [[nodiscard]] const QString &NoRadio() const { return mNoRadio; }
 
   protected:
     void showEvent(QShowEvent *event) override;
@@ -42,6 +47,7 @@ class frmProgressInfo final : public QDialog, private ProgressEvents {
     void mobjTransformerEvents_RadioInfo(const QString &strRadioModel, const QString &strSWVersion,
                                          const QString &strDBVersion, const QString &strHardwareRev,
                                          const QString &strProductCode) override;
+    void mobjTransformerEvents_NoRadio(const QString &Prompt, const QString &strParameters) override;
     QLayout *detailRows(const QString &portName);
     QLayout *phaseRows();
     QLayout *buttonRow();
@@ -64,6 +70,8 @@ class frmProgressInfo final : public QDialog, private ProgressEvents {
     bool mPhaseRuns = false; // between ProgressBarStart and ProgressBarEnd
     bool mStarted = false;
     bool mResult = false;
+    bool mRadioAnswered = false;
+    QString mNoRadio;
 
     QLabel *lblItemName;
     QLabel *lblPercentage;

@@ -3,21 +3,14 @@
 #include "common_error_handler.h"
 #include "message_style.h"
 #include "product_identity.h"
+#include "radio_models.h"
 #include "transformer.h"
 
 #include <QScopedValueRollback>
-#include <QStringList>
 
 #include <utility>
 
 namespace {
-bool isCalibrationModel(const QString &model) {
-    const QStringList models{QStringLiteral("KX4600 Cal"), QStringLiteral("KX4600 Trigger Base"),
-                             QStringLiteral("KX4600 HPM"), QStringLiteral("KX4600 HPM Trigger Base"),
-                             QStringLiteral("KX4700 Cal"), QStringLiteral("KX4700 Trigger Base"),
-                             QStringLiteral("KX4700 HPM"), QStringLiteral("KX4700 HPM Trigger Base")};
-    return models.contains(model);
-}
 const QString kCalibrationForm = QStringLiteral("usrctlCalSpecifications");
 } // namespace
 
@@ -36,7 +29,7 @@ void clsTalkToRadio::TalkToRadio(InterrogationType type) try {
     if (!prepare(type))
         return;
     Transformer &transformer = *mProcess.objTransformer;
-    if (isCalibrationModel(transformer.GetRadioModel()))
+    if (RadioModels::IsCalibration(transformer.GetRadioModel()))
         openCalibrationForm(type != InterrogationType::kRead);
     mProgressWindow(type);
     if (mProcess.objTransformer != nullptr && mProcess.objTransformer->GetLoadFailed())

@@ -2,6 +2,7 @@
 
 #include "common_error_handler.h"
 #include "product_identity.h"
+#include "radio_models.h"
 #include "transformer.h"
 #include "translation.h"
 
@@ -12,7 +13,8 @@ WindowTitle::WindowTitle(QWidget &window, Transformer &transformer, const Transl
 
 void WindowTitle::SetUIFormTitle() try {
     const QString file = mTransformer.GetFileName();
-    QString title = file.isEmpty() ? QString() : file + QStringLiteral(" - ");
+    const QString data = file.isEmpty() ? RadioModels::RadioName(mTransformer) : file;
+    QString title = data.isEmpty() ? QString() : data + QStringLiteral(" - ");
     title += mTranslation.NLSStr(ProductIdentity::title());
     title += QStringLiteral(" (") + ProductIdentity::shortVersion() + QStringLiteral(")");
     mWindow.setWindowTitle(title);

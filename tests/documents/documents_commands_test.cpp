@@ -1,5 +1,6 @@
 #include "document_doubles.h"
 #include "message_style.h"
+#include "talk_to_radio.h"
 
 #include <QTest>
 
@@ -41,10 +42,6 @@ const Case kCases[] = {
      .formDirty = true,
      .chosen = "other.k4p",
      .steps = "shell.RevertForm(); ShowLoad(); SaveSetting(DataDirectory, ~); ReadFile(~/other.k4p, 0, 0, false)"},
-    {.fault = "open: No at the form's question keeps everything",
-     .command = "open",
-     .formDirty = true,
-     .formAnswer = kNo},
     {.fault = "open: Yes at the form's question goes on",
      .command = "open",
      .formDirty = true,
@@ -52,9 +49,6 @@ const Case kCases[] = {
      .chosen = "other.k4p",
      .steps = "shell.RevertForm(); shell.ChangeFormTreeNodes(false, false); ShowLoad(); "
               "SaveSetting(DataDirectory, ~); ReadFile(~/other.k4p, 0, 0, false)"},
-    {.fault = "open: a cancelled dialog reads nothing and keeps the folder",
-     .command = "open",
-     .steps = "shell.RevertForm(); shell.ChangeFormTreeNodes(false, false); ShowLoad()"},
     {.fault = "open: a form that cannot be reverted leaves the tree alone",
      .command = "open",
      .refuses = "shell.RevertForm",
@@ -71,10 +65,6 @@ const Case kCases[] = {
      .command = "recent other.k4p",
      .loaded = "fleet.k4p",
      .steps = "shell.RevertForm(); shell.ChangeFormTreeNodes(false, false); ReadFile(~/other.k4p, 0, 0, false)"},
-    {.fault = "recent: a missing file is the component's to report",
-     .command = "recent gone.k4p",
-     .loaded = "gone-too.k4p",
-     .steps = "shell.RevertForm(); shell.ChangeFormTreeNodes(false, false); ReadFile(~/gone.k4p, 0, 0, false)"},
     {.fault = "recent: the loaded file over unsaved data asks first",
      .command = "recent fleet.k4p",
      .dataDirty = true,
@@ -92,17 +82,6 @@ const Case kCases[] = {
      .formDirty = true,
      .formAnswer = kNo,
      .steps = "shell.FocusFormTree()"},
-    {.fault = "drop: the loaded file over unsaved data asks first",
-     .command = "drop fleet.k4p",
-     .dataDirty = true,
-     .generalAnswer = kNo,
-     .loaded = "fleet.k4p",
-     .steps = "shell.FocusFormTree()"},
-    {.fault = "save: a form that refuses to be saved stops the command",
-     .command = "save",
-     .loaded = "fleet.k4p",
-     .refuses = "shell.SaveForm",
-     .steps = "shell.SaveForm()"},
     {.fault = "save: invalid data is not written",
      .command = "save",
      .loaded = "fleet.k4p",
@@ -140,20 +119,12 @@ const Case kCases[] = {
      .chosen = "other.k4p",
      .steps = "shell.SaveForm(); FinalValidate(); ShowSave(fleet.k4p); SaveSetting(DataDirectory, ~); "
               "SaveFile(~/other.k4p, , 0); FINISH; FLEET FIRST"},
-    {.fault = "save as: a cancelled dialog writes nothing",
-     .command = "saveAs",
-     .loaded = "fleet.k4p",
-     .steps = "shell.SaveForm(); FinalValidate(); ShowSave(fleet.k4p)"},
     {.fault = "squirt: always asks for the name and proposes none",
      .command = "squirt",
      .loaded = "fleet.k4p",
      .chosen = "fleet.sqt",
      .steps = "shell.SaveForm(); FinalValidate(); ShowSave(); SaveSetting(DataDirectory, ~); "
               "SaveFile(~/fleet.sqt, , 0); FINISH; FLEET FIRST"},
-    {.fault = "squirt: invalid data opens no dialog",
-     .command = "squirt",
-     .refuses = "FinalValidate",
-     .steps = "shell.SaveForm(); FinalValidate()"},
     {.fault = "revert: unsaved data is asked about once, not the form too",
      .command = "revert",
      .formDirty = true,
@@ -161,21 +132,6 @@ const Case kCases[] = {
      .generalAnswer = kYes,
      .loaded = "fleet.k4p",
      .steps = "shell.RevertForm(); ReadFile(~/fleet.k4p, 0, 0, false); FINISH; FLEET FIRST"},
-    {.fault = "revert: No keeps the data",
-     .command = "revert",
-     .dataDirty = true,
-     .generalAnswer = kNo,
-     .loaded = "fleet.k4p"},
-    {.fault = "revert: Cancel is no Yes",
-     .command = "revert",
-     .dataDirty = true,
-     .generalAnswer = MessageAnswer::kCancel,
-     .loaded = "fleet.k4p"},
-    {.fault = "revert: a dirty form alone asks its own question",
-     .command = "revert",
-     .formDirty = true,
-     .formAnswer = kNo,
-     .loaded = "fleet.k4p"},
     {.fault = "revert: a form that cannot be reverted stops the command",
      .command = "revert",
      .loaded = "fleet.k4p",
@@ -187,14 +143,6 @@ const Case kCases[] = {
               "shell.SelectFirstFilterTab(); shell.SelectNode(1); shell.SetFormFrameCaption(Reloading); "
               "ReloadDefaults(Standard); shell.ChangeFormTreeNodes(false, false); RefreshFormList(); "
               "shell.SetUIFormTitle()"},
-    {.fault = "new: No at the unsaved data keeps everything",
-     .command = "new",
-     .dataDirty = true,
-     .generalAnswer = kNo},
-    {.fault = "new: No at the form's question keeps everything",
-     .command = "new",
-     .formDirty = true,
-     .formAnswer = kNo},
 };
 } // namespace
 
@@ -205,6 +153,8 @@ class DocumentsCommandsTest : public QObject {
   private Q_SLOTS:
     void everyCommandInEveryState_data();
     void everyCommandInEveryState();
+    void nothingIsLostUnasked_data();
+    void nothingIsLostUnasked();
     void questionsToTheLetter_data();
     void questionsToTheLetter();
     void aFailingComponentIsReportedOnce();
@@ -226,8 +176,17 @@ void run(DocumentBench &bench, const QString &command) {
         bench.commands.OpenDropped(file);
         return;
     }
-    using Command = void (clsDocumentCommands::*)();
-    static const QHash<QString, Command> kCommands{
+    clsTalkToRadio radio(bench.services.process, bench.shell, bench.services.boxes, bench.services.errors,
+                         [&bench](InterrogationType type) { bench.log.add(QStringLiteral("window"), {qint32(type)}); });
+    using RadioCommand = void (clsTalkToRadio::*)();
+    const QHash<QString, RadioCommand> radioCommands{
+        {QStringLiteral("interrogate"), &clsTalkToRadio::mnuInterrogateRadio_Click},
+        {QStringLiteral("read"), &clsTalkToRadio::mnuRead_Click},
+        {QStringLiteral("program"), &clsTalkToRadio::mnuProgram_Click}};
+    if (const auto operation = radioCommands.value(name))
+        return (radio.*operation)();
+    using DocumentCommand = void (clsDocumentCommands::*)();
+    const QHash<QString, DocumentCommand> commands{
         {QStringLiteral("new"), &clsDocumentCommands::mnuNew_Click},
         {QStringLiteral("open"), &clsDocumentCommands::mnuOpen_Click},
         {QStringLiteral("save"), &clsDocumentCommands::mnuSave_Click},
@@ -235,7 +194,7 @@ void run(DocumentBench &bench, const QString &command) {
         {QStringLiteral("squirt"), &clsDocumentCommands::mnuSquirt_Click},
         {QStringLiteral("revert"), &clsDocumentCommands::mnuRevertToSaved_Click},
     };
-    (bench.commands.*kCommands.value(name))();
+    (bench.commands.*commands.value(name))();
 }
 
 void prepare(DocumentBench &bench, const Case &row) {
@@ -278,6 +237,111 @@ void DocumentsCommandsTest::everyCommandInEveryState() {
     run(bench, QString::fromLatin1(row->command));
     QCOMPARE(bench.steps(), expectedSteps(*row));
     QCOMPARE(bench.shell.generalDialogs.size(), row->generalAnswer != 0 ? 1 : 0);
+}
+
+namespace {
+// What a command does to the form, the data and the disk, and what it asks before.
+struct Command {
+    const char *name;
+    const char *effect; // the call by which it replaces, writes or programs
+    const char *formQuestion = "";
+    bool asksData = false; // itself; before a read of another file the component asks
+    bool savesForm = false;
+    bool hasDialog = false;
+};
+const QByteArray kMayBeLost = "This form has outstanding changes.  If you proceed these changes may be lost.  Do you "
+                              "wish to proceed?";
+const QByteArray kWillBeLost = kFormQuestion.toLatin1();
+const Command kCommands[] = {
+    {.name = "new", .effect = "ReloadDefaults", .formQuestion = kWillBeLost, .asksData = true},
+    {.name = "open", .effect = "ReadFile", .formQuestion = kWillBeLost, .hasDialog = true},
+    {.name = "recent other.k4p", .effect = "ReadFile", .formQuestion = kWillBeLost},
+    {.name = "drop other.k4p", .effect = "ReadFile", .formQuestion = kWillBeLost},
+    {.name = "drop gone.k4p", .effect = "ReadFile", .formQuestion = kWillBeLost, .asksData = true},
+    {.name = "revert", .effect = "ReadFile", .formQuestion = kWillBeLost, .asksData = true},
+    {.name = "save", .effect = "SaveFile", .savesForm = true},
+    {.name = "saveAs", .effect = "SaveFile", .savesForm = true, .hasDialog = true},
+    {.name = "squirt", .effect = "SaveFile", .savesForm = true, .hasDialog = true},
+    {.name = "interrogate", .effect = "window"},
+    {.name = "read", .effect = "window", .formQuestion = kMayBeLost, .savesForm = true},
+    {.name = "program", .effect = "window", .savesForm = true},
+};
+
+enum class State { kClean, kDirtyForm, kRefusedText, kUnsavedData, kInvalidData, kFailingDisk };
+const std::pair<State, const char *> kStates[] = {{State::kClean, "clean"},
+                                                  {State::kDirtyForm, "dirty form"},
+                                                  {State::kRefusedText, "refused text"},
+                                                  {State::kUnsavedData, "unsaved data"},
+                                                  {State::kInvalidData, "invalid data"},
+                                                  {State::kFailingDisk, "failing disk"}};
+
+bool asks(const Command &command, State state) {
+    return (state == State::kDirtyForm && *command.formQuestion != '\0') ||
+           (state == State::kUnsavedData && command.asksData);
+}
+
+bool goesOn(const Command &command, State state, qint32 answer) {
+    const bool refused = state == State::kRefusedText && command.savesForm;
+    const bool invalid = state == State::kInvalidData && QByteArray(command.effect) == "SaveFile";
+    return !refused && !invalid && (!asks(command, state) || answer == kYes);
+}
+} // namespace
+
+Q_DECLARE_METATYPE(const Command *)
+Q_DECLARE_METATYPE(State)
+
+// Every command in every state, with each answer and with its dialog confirmed or cancelled.
+void DocumentsCommandsTest::nothingIsLostUnasked_data() {
+    QTest::addColumn<const Command *>("command");
+    QTest::addColumn<State>("state");
+    QTest::addColumn<qint32>("answer");
+    QTest::addColumn<bool>("confirmed");
+    for (const Command &command : kCommands) {
+        for (const auto &[state, text] : kStates) {
+            for (const qint32 answer : {kYes, kNo, qint32(MessageAnswer::kCancel)}) {
+                for (const bool confirmed : {true, false}) {
+                    const bool repeats =
+                        (answer != kYes && !asks(command, state)) || (!confirmed && !command.hasDialog);
+                    if (!repeats)
+                        QTest::addRow("%s, %s, answer %d, %s", command.name, text, answer,
+                                      confirmed ? "confirmed" : "cancelled")
+                            << &command << state << answer << confirmed;
+                }
+            }
+        }
+    }
+}
+
+void DocumentsCommandsTest::nothingIsLostUnasked() {
+    QFETCH(const Command *, command);
+    QFETCH(State, state);
+    QFETCH(qint32, answer);
+    QFETCH(bool, confirmed);
+    const QString effect = QString::fromLatin1(command->effect);
+    const bool asksForm = asks(*command, state) && state == State::kDirtyForm;
+    const bool asksData = asks(*command, state) && state == State::kUnsavedData;
+    DocumentBench bench;
+    prepare(bench, {.fault = "",
+                    .command = command->name,
+                    .formDirty = state == State::kDirtyForm,
+                    .dataDirty = state == State::kUnsavedData,
+                    .generalAnswer = asksData ? answer : 0,
+                    .loaded = "gone.k4p",
+                    .chosen = confirmed ? "new.k4p" : "",
+                    .refuses = state == State::kRefusedText   ? "shell.SaveForm"
+                               : state == State::kInvalidData ? "FinalValidate"
+                               : state == State::kFailingDisk ? "SaveFile"
+                                                              : ""});
+    if (asksForm)
+        bench.services.boxes.expect(QString::fromLatin1(command->formQuestion), answer);
+    run(bench, QString::fromLatin1(command->name));
+
+    const bool acts = goesOn(*command, state, answer) && confirmed;
+    const bool writes = effect == QStringLiteral("SaveFile");
+    QCOMPARE(bench.log.linesOf(effect).size(), acts ? 1 : 0);
+    QCOMPARE(bench.shell.generalDialogs.size(), asksData ? 1 : 0);
+    if (!acts || (writes && state == State::kFailingDisk))
+        QVERIFY2(bench.log.linesOf(QStringLiteral("shell.SetUIFormTitle")).isEmpty(), "the title claims success");
 }
 
 void DocumentsCommandsTest::questionsToTheLetter_data() {

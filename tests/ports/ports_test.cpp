@@ -35,6 +35,7 @@ class PortsTest : public QObject {
   private Q_SLOTS:
     void init() { QVERIFY(mClass.isValid()); }
     void phantomPortsAreLeftOutAndNumbersAscend();
+    void anAdapterIsNamedByMakerAndProduct();
     void replacementListTakesOnlyWholeParts_data();
     void replacementListTakesOnlyWholeParts();
     void portTextsFindTheirDevice_data();
@@ -74,6 +75,20 @@ void PortsTest::phantomPortsAreLeftOutAndNumbersAscend() {
     QCOMPARE(ports.List().back().device, QStringLiteral("/dev/ttyACM1"));
     QCOMPARE(SerialPorts(QStringLiteral("/nowhere"), QStringLiteral("/dev"), QString()).GetAvailableComPorts(),
              QStringLiteral("|"));
+}
+
+// The texts stand above the interface, which "device" names.
+void PortsTest::anAdapterIsNamedByMakerAndProduct() {
+    const QDir machine(mClass.path());
+    QVERIFY(machine.mkpath(QStringLiteral("usb/1-1/interface/ttyUSB3")) && machine.mkpath(QStringLiteral("ttyUSB3")));
+    for (const auto &[name, text] : {std::pair("manufacturer", "Maker \n"), std::pair("product", "Adapter\n")}) {
+        QFile file(machine.filePath(QStringLiteral("usb/1-1/") + QString::fromLatin1(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(text) > 0);
+    }
+    QVERIFY(QFile::link(machine.filePath(QStringLiteral("usb/1-1/interface/ttyUSB3")),
+                        machine.filePath(QStringLiteral("ttyUSB3/device"))));
+    for (const SerialPortEntry &entry : SerialPorts(mClass.path(), QStringLiteral("/dev"), QString()).List())
+        QCOMPARE(entry.name, entry.number == 104 ? QStringLiteral("Maker Adapter") : QString());
 }
 
 void PortsTest::replacementListTakesOnlyWholeParts_data() {

@@ -1,12 +1,14 @@
 #include "common_error_handler.h"
 #include "main_application.h"
 #include "main_program.h"
+#include "program_hands.h"
 #include "radio_process.h"
 #include "tour.h"
 #include "tour_dialogs.h"
 #include "tour_report.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
@@ -22,10 +24,21 @@ void useFolder(const QString &folder) {
         qputenv(name, (folder + u'/' + QString::fromLatin1(name)).toUtf8());
 }
 
+// As the start script does.
+void putFleetIntoRecentFiles(const QString &fleet) {
+    require(QFileInfo::exists(fleet), QStringLiteral("there is no file %1").arg(fleet));
+    const QString folder = qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/KX4600");
+    QFile settings(folder + QStringLiteral("/settings.ini"));
+    require(QDir().mkpath(folder) && settings.open(QIODevice::WriteOnly), QStringLiteral("no settings can be written"));
+    settings.write("[General]\nMRUNum=1\nMRU1=" + QFileInfo(fleet).canonicalFilePath().toUtf8() + '\n');
+}
+
 int walkTour(int &argc, char **argv, const QString &folder, const QTemporaryDir &home) {
     TourReport report(folder);
     const RadioProcess radio(QFileInfo(QString::fromLocal8Bit(argv[0])).absolutePath(), home.path(), kSerialNumber);
-    qputenv("KX4600_PORTS", (QStringLiteral("1=") + radio.link() + QStringLiteral("=Simulated radio")).toUtf8());
+    qputenv("KX4600_PORTS", (QStringLiteral("2=") + radio.link() + QStringLiteral("=Simulated radio")).toUtf8());
+    putFleetIntoRecentFiles(QFileInfo(QString::fromLocal8Bit(argv[0])).absolutePath() +
+                            QStringLiteral("/../demo/harbour_cabs.k4p"));
     ErrorReport errors(false);
     const MainApplication application(argc, argv, errors);
     TourDialogs dialogs;

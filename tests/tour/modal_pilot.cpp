@@ -9,11 +9,19 @@
 #include <QProgressBar>
 #include <QPushButton>
 
+#include <array>
 #include <cstdlib>
 
 namespace {
 constexpr int kLookEveryMs = 20;
 constexpr qint64 kPatienceMs = 60000;
+
+// Windows that are looked at and then closed by one of their buttons.
+struct Answer {
+    const char *window;
+    const char *button;
+};
+constexpr std::array kAnswers{Answer{"frmPortChoice", "cmdInterrogate"}, Answer{"frmPreferences", "OKButton"}};
 } // namespace
 
 ModalPilot::ModalPilot(TourReport &report) : mReport(report) {
@@ -25,6 +33,7 @@ void ModalPilot::during(const QString &pictureName, const std::function<void()> 
     mPictureName = pictureName;
     mBoxes.clear();
     mRadioDetails.clear();
+    mWindows.clear();
     mProgressPictured = false;
     mWaiting.start();
     mTimer.start();
@@ -39,17 +48,17 @@ void ModalPilot::look() {
         std::_Exit(1);
     }
     QWidget *modal = QApplication::activeModalWidget();
-    if (modal == nullptr)
+    if (modal == nullptr || !modal->isVisible())
         return;
     if (auto *box = qobject_cast<QMessageBox *>(modal))
         answer(*box);
     else if (modal->objectName() == QStringLiteral("frmProgressInfo"))
         follow(*modal);
+    else
+        close(*modal);
 }
 
 void ModalPilot::answer(QMessageBox &box) {
-    if (!box.isVisible())
-        return;
     mBoxes << box.text().trimmed();
     mReport.picture(box, mPictureName + QStringLiteral("-message"));
     QAbstractButton *yes = box.button(QMessageBox::Yes);
@@ -69,4 +78,15 @@ void ModalPilot::follow(QWidget &progressWindow) {
         mRadioDetails = radio->text();
     mReport.picture(progressWindow, mPictureName);
     ok->click();
+}
+
+void ModalPilot::close(QWidget &window) {
+    for (const Answer &answer : kAnswers) {
+        if (window.objectName() != QLatin1StringView(answer.window))
+            continue;
+        mWindows << window.objectName();
+        mReport.picture(window, mPictureName + u'-' + window.objectName());
+        if (auto *button = window.findChild<QPushButton *>(QLatin1StringView(answer.button)))
+            button->click();
+    }
 }

@@ -10,8 +10,8 @@
 class QMessageBox;
 class TourReport;
 
-// The user's hands while a modal window has taken over: answers message boxes, and the progress window where its OK
-// button has come alive. What it met is kept for the step to look at.
+// The user's hands while a modal window has taken over: answers message boxes, the progress window where its OK
+// button has come alive, and the windows that it knows a button of. What it met is kept for the step to look at.
 class ModalPilot {
   public:
     explicit ModalPilot(TourReport &report);
@@ -24,16 +24,21 @@ class ModalPilot {
     // The radio's details that the progress window of the last action showed.
     [[nodiscard]] const QString &radioDetails() const { return mRadioDetails; }
 
+    // Names of the other windows that the last action opened, in their order.
+    [[nodiscard]] const QStringList &windows() const { return mWindows; }
+
   private:
     void look();
     void answer(QMessageBox &box);
     void follow(QWidget &progressWindow);
+    void close(QWidget &window);
 
     TourReport &mReport;
     QTimer mTimer;
     QElapsedTimer mWaiting;
     QString mPictureName;
     QStringList mBoxes;
+    QStringList mWindows;
     QString mRadioDetails;
     bool mProgressPictured = false;
 };

@@ -1,6 +1,6 @@
 #include "radio_process.h"
 
-#include "tour_report.h"
+#include "program_hands.h"
 
 #include <csignal>
 
@@ -17,7 +17,7 @@ RadioProcess::RadioProcess(const QString &programs, const QString &folder, const
     // A tour that ends badly leaves no radio behind.
     mProcess.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
     mProcess.start(programs + QStringLiteral("/kx4600sim"),
-                   {QStringLiteral("--link"), mLink, QStringLiteral("--tier"), QStringLiteral("Standard"),
+                   {QStringLiteral("--link"), mLink, QStringLiteral("--tier"), QStringLiteral("Advanced"),
                     QStringLiteral("--serial"), serialNumber, QStringLiteral("--image"),
                     folder + QStringLiteral("/radio.img"), QStringLiteral("--full-speed")});
     require(mProcess.waitForStarted(kStartMs) && mProcess.waitForReadyRead(kStartMs),

@@ -7,15 +7,13 @@
 #include <functional>
 #include <memory>
 
-class frmMain;
 class MainProgram;
-class QLineEdit;
-class QWidget;
+class ProgramHands;
 class RadioProcess;
-class Transformer;
 
-// The road through the program: interrogate, read, edit, be refused, save, open again, program, verify, and read into a
-// program that starts afresh. Each step fails by an exception.
+// The road through the program: find the radio, read it, open the demonstration fleet, look at all forms, edit fields
+// and cells, paste, be refused, save, open again, program, verify, and read into a program that starts afresh. Each
+// step fails by an exception.
 class Tour {
   public:
     using ProgramMaker = std::function<std::unique_ptr<MainProgram>()>;
@@ -28,27 +26,34 @@ class Tour {
 
   private:
     void start();
-    void interrogate();
+    void findTheRadio();
     void read();
+    void openTheFleet();
+    void lookAtForms();
     void edit();
     void beRefused();
+    void editCell();
+    void paste();
+    void lookAtAnotherTier();
+    void seePreferences();
+    void lookInTheDark();
     void save();
     void openAgain();
     void program();
     void verifyRadio();
-    void lookAtForms();
     void leave();
     void readIntoFreshStart();
 
-    void trigger(const QString &action, const QString &picture);
-    void openForm(const QString &caption);
-    void typeOver(QLineEdit &editor, const QString &text);
     void picture(const QString &what);
-    [[nodiscard]] QLineEdit &editorOf(const QString &uiid) const;
-    [[nodiscard]] QString value(const QString &uiid) const;
+    // An action that must meet no message.
+    void quietly(const QString &pictureName, const std::function<void()> &action);
+    void beRefusedBy(const QString &pictureName, const std::function<void()> &action);
+    void trigger(const QString &command, const QString &pictureName);
+    void expect(const QString &uiid, const QString &wanted, qint32 record = 0) const;
 
     ProgramMaker mMakeProgram;
     std::unique_ptr<MainProgram> mProgram;
+    std::unique_ptr<ProgramHands> mHands;
     const RadioProcess &mRadio;
     TourDialogs &mDialogs;
     TourReport &mReport;

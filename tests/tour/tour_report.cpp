@@ -1,5 +1,7 @@
 #include "tour_report.h"
 
+#include "program_hands.h"
+
 #include <QDir>
 #include <QPixmap>
 #include <QWidget>

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -18,6 +19,14 @@ struct Family {
 };
 // From the highest base down, so that a number finds its family.
 constexpr std::array kFamilies{Family{"ttyACM", 201, false}, Family{"ttyUSB", 101, false}, Family{"ttyS", 1, true}};
+
+constexpr int kAdapterDepth = 4;
+
+// The text of a file of one line; "" where there is none.
+QString lineOf(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readLine()).trimmed() : QString();
+}
 
 // The number behind prefix; nothing if something else stands there.
 std::optional<int> indexBehind(const QString &name, const Family &family) {
@@ -62,7 +71,7 @@ std::vector<SerialPortEntry> SerialPorts::machineList() const {
         for (const Family &family : kFamilies) {
             const std::optional<int> index = indexBehind(tty, family);
             if (index && (!family.needsChip || hasChip(tty)))
-                entries.push_back({family.base + *index, mDeviceFolder + QLatin1Char('/') + tty, {}});
+                entries.push_back({family.base + *index, mDeviceFolder + QLatin1Char('/') + tty, adapterName(tty)});
         }
     return entries;
 }
@@ -70,6 +79,18 @@ std::vector<SerialPortEntry> SerialPorts::machineList() const {
 bool SerialPorts::hasChip(const QString &tty) const {
     QFile type(mClassFolder + QLatin1Char('/') + tty + QStringLiteral("/type"));
     return type.open(QIODevice::ReadOnly) && type.readAll().trimmed().toInt() != 0;
+}
+
+// The device of a USB adapter is an interface; maker and product stand one or two folders above it.
+QString SerialPorts::adapterName(const QString &tty) const {
+    QString folder = QFileInfo(mClassFolder + QLatin1Char('/') + tty + QStringLiteral("/device")).canonicalFilePath();
+    for (int above = 0; above < kAdapterDepth && !folder.isEmpty(); ++above) {
+        const QString product = lineOf(folder + QStringLiteral("/product"));
+        if (!product.isEmpty())
+            return (lineOf(folder + QStringLiteral("/manufacturer")) + QLatin1Char(' ') + product).simplified();
+        folder = QFileInfo(folder).path();
+    }
+    return {};
 }
 
 QString SerialPorts::GetAvailableComPorts() const {

@@ -9,7 +9,7 @@
 struct SerialPortEntry {
     int number = 0; // the "COM" number, from 1
     QString device; // path, for example "/dev/ttyUSB0"
-    QString name;   // a name for people; may be empty
+    QString name;   // for people: a given one, else maker and product of a USB adapter; may be empty
 
     bool operator==(const SerialPortEntry &) const = default;
 };
@@ -42,6 +42,7 @@ class SerialPorts {
     [[nodiscard]] std::vector<SerialPortEntry> replacedList() const;
     [[nodiscard]] std::vector<SerialPortEntry> machineList() const;
     [[nodiscard]] bool hasChip(const QString &tty) const;
+    [[nodiscard]] QString adapterName(const QString &tty) const;
 
     QString mClassFolder;
     QString mDeviceFolder;

@@ -4,6 +4,7 @@
 #include "file_problem.h"
 #include "image_decoder.h"
 #include "image_encoder.h"
+#include "no_radio_events.h"
 #include "older_version.h"
 #include "radio_report_text.h"
 #include "restore_points.h"
@@ -13,6 +14,8 @@
 #include "translation.h"
 #include "value_text.h"
 #include "wire_trace.h"
+
+#include <QTime>
 
 namespace {
 const QString kBand = QStringLiteral("Band_q7r");
@@ -26,20 +29,14 @@ RadioOperations::RadioOperations(ComponentState &state, const SettingsStore &set
     mLink.setProgress(this);
 }
 
-std::optional<QString> RadioOperations::device() {
-    const QString port = ValueText::of(mSettings.value(QStringLiteral("CommPortNumber"), QStringLiteral("1")));
-    std::optional<QString> device = SerialPorts().DeviceOf(port);
-    if (!device)
-        mState.events.tellError(QStringLiteral("There is no serial port with the number %0:S. Choose another in the "
-                                               "preferences."),
-                                {port});
-    return device;
+QString RadioOperations::portNumber() const {
+    return ValueText::of(mSettings.value(QStringLiteral("CommPortNumber"), QStringLiteral("1")));
 }
 
 RadioReport RadioOperations::run(const std::function<RadioReport(const QString &)> &operation, bool staysOpen) {
     RadioReport report;
     report.fault = LinkFault::PortMissing;
-    const std::optional<QString> port = device();
+    const std::optional<QString> port = SerialPorts().DeviceOf(portNumber());
     if (port) {
         const std::unique_ptr<WireTrace> trace =
             mState.places.stateFolder.isEmpty() ? nullptr : std::make_unique<WireTrace>(mState.places.stateFolder);
@@ -51,9 +48,25 @@ RadioReport RadioOperations::run(const std::function<RadioReport(const QString &
     const bool forceClose = !staysOpen || !report.succeeded();
     mState.events.raiseProgress(
         [forceClose](ProgressEvents &listener) { listener.mobjTransformerEvents_ProgressBarEnd(forceClose); });
-    if (port && !report.succeeded())
+    if (!port)
+        tellNoRadio(QStringLiteral("There is no serial port with the number %0:S. Choose another in the preferences."),
+                    portNumber());
+    else if (!report.succeeded())
         tellFailure(report);
     return report;
+}
+
+// Left to a progress listener that can offer other ports.
+void RadioOperations::tellNoRadio(const QString &prompt, const QString &parameter) {
+    bool told = false;
+    mState.events.raiseProgress([&](ProgressEvents &listener) {
+        if (auto *offering = dynamic_cast<NoRadioEvents *>(&listener)) {
+            offering->mobjTransformerEvents_NoRadio(prompt, parameter);
+            told = true;
+        }
+    });
+    if (!told)
+        mState.events.tellError(prompt, {parameter});
 }
 
 void RadioOperations::tellFailure(const RadioReport &report) {
@@ -63,7 +76,11 @@ void RadioOperations::tellFailure(const RadioReport &report) {
         sentences += olderDatabaseAdvice(report);
     sentences += {RadioReportText::stage(report.stage), RadioReportText::outcome(report.outcome)};
     sentences.removeAll(QString());
-    mState.events.tellError(QStringLiteral("%0:S"), {Translation::Pieces(sentences, kLineBreak)});
+    const QString text = Translation::Pieces(sentences, kLineBreak);
+    if (report.fault == LinkFault::PortMissing || report.fault == LinkFault::NoAnswer)
+        tellNoRadio(QStringLiteral("%0:S"), text);
+    else
+        mState.events.tellError(QStringLiteral("%0:S"), {text});
 }
 
 // What an older radio has no room for, and the way out.
@@ -117,6 +134,7 @@ void RadioOperations::ReadRadio(bool &result) {
         return;
     }
     takeOver(std::move(*data));
+    tellContact(QStringLiteral("Read from radio"), *report.identity);
     result = true;
 }
 
@@ -155,7 +173,7 @@ void RadioOperations::ProgramRadio() {
     if (!report.succeeded())
         return;
     mState.journal.tierIsStored(mState.tier());
-    mState.events.lastAction(QStringLiteral("Programmed"), QString());
+    tellContact(QStringLiteral("Programmed"), *report.identity);
     mState.events.raise([](TransformerEvents &listener) { listener.TransformerEvents_SetTierNodeGreenTick(true); });
     mState.events.tellDone(RadioReportText::outcome(report.outcome));
 }
@@ -212,10 +230,19 @@ void RadioOperations::advanced(qint32 increment, const QString &item, const QStr
         [&](ProgressEvents &listener) { listener.mobjTransformerEvents_ProgressPing(increment, item, percentage); });
 }
 
+QString RadioOperations::nameOf(const RadioIdentity &identity) const {
+    return QStringLiteral("%1, %2, %3")
+        .arg(mCompatibility.tierName(identity.tier), mCompatibility.bandName(identity.band), identity.serialText());
+}
+
+// What was done last, with which radio and when.
+void RadioOperations::tellContact(const QString &action, const RadioIdentity &identity) {
+    const QString time = QTime::currentTime().toString(QStringLiteral("hh:mm:ss"));
+    mState.events.lastAction(action, nameOf(identity) + QStringLiteral(", ") + time);
+}
+
 void RadioOperations::identified(const RadioIdentity &identity) {
-    const QString model =
-        QStringLiteral("%1, %2, %3")
-            .arg(mCompatibility.tierName(identity.tier), mCompatibility.bandName(identity.band), identity.serialText());
+    const QString model = nameOf(identity);
     mState.events.raiseProgress([&](ProgressEvents &listener) {
         listener.mobjTransformerEvents_RadioInfo(model, identity.softwareText(),
                                                  mCompatibility.versionName(identity.databaseLevel),

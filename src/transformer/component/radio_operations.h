@@ -37,7 +37,10 @@ class RadioOperations final : private RadioProgress, private ProgramContent {
 
     // Runs one operation with a trace; raises the end of the progress, then says how it ended.
     RadioReport run(const std::function<RadioReport(const QString &device)> &operation, bool staysOpen);
-    [[nodiscard]] std::optional<QString> device();
+    [[nodiscard]] QString portNumber() const;
+    void tellNoRadio(const QString &prompt, const QString &parameter);
+    [[nodiscard]] QString nameOf(const RadioIdentity &identity) const;
+    void tellContact(const QString &action, const RadioIdentity &identity);
     void tellFailure(const RadioReport &report);
     [[nodiscard]] QStringList olderDatabaseAdvice(const RadioReport &report) const;
     void settleOpenRun(const RadioReport &report);
