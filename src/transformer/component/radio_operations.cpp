@@ -14,6 +14,8 @@
 #include "value_text.h"
 #include "wire_trace.h"
 
+#include <QCoreApplication>
+
 namespace {
 const QString kBand = QStringLiteral("Band_q7r");
 const QString kLineBreak = QStringLiteral("\n");
@@ -238,6 +240,7 @@ QString RadioOperations::storeRestorePoint(const RadioIdentity &identity, const 
     DataDocument document(mState.dictionary);
     document.data.setCurrentTier(data->tier());
     document.data.replace(std::move(*data));
+    QCoreApplication::processEvents(); // decoding and writing are a repaint apart
     try {
         const DataFileWriter writer(document);
         (void)RestorePoints(mState.places.restoreFolder)
