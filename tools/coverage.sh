@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 wanted="${1:-90}"
-decoders=(data_file_reader tier_json_reader record_json json_text sealed_text sha256 file_kind)
+decoders=(data_file_reader tier_json_reader record_json json_text sealed_text file_kind)
 
 cmake -S . -B build-coverage -G Ninja -DCMAKE_BUILD_TYPE=Release -DKX_COVERAGE=ON >/dev/null
 cmake --build build-coverage -j 2 --target damaged_files_campaign
