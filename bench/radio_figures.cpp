@@ -49,14 +49,15 @@ class RadioBench {
         require(!mBench.transformer.GetDataIsDirty(), mBench.listener);
         addPhases(where, line);
         mFigures.add(where + QStringLiteral("program and verify"), programSeconds, QStringLiteral("s"));
-        mFigures.add(where + QStringLiteral("longest gap of the event loop"), mTiming.longestGap() * 1000,
-                     QStringLiteral("ms"), atMost(100));
+        addGaps(where, QStringLiteral("program"));
         bool read = false;
         mTiming.start();
         mBench.transformer.ReadRadio(true, read);
         mTiming.stop();
         require(read, mBench.listener);
+        mTiming.stop();
         mFigures.add(where + QStringLiteral("read"), mTiming.seconds(), QStringLiteral("s"));
+        addGaps(where, QStringLiteral("read"));
     }
 
     void measureCancel(const Line &line) {
@@ -88,6 +89,12 @@ class RadioBench {
             QStringList{QStringLiteral("--link"), mRadio->link(), QStringLiteral("--tier"), mTier} + line.options);
         require(ready, mBench.listener);
         mBench.transformer.SaveSetting(QStringLiteral("CommPortNumber"), mRadio->link());
+    }
+    void addGaps(const QString &where, const QString &operation) {
+        const QString ms = QStringLiteral("ms");
+        mFigures.add(where + operation + QStringLiteral(", longest gap of the event loop"), mTiming.longestGap() * 1000,
+                     ms, atMost(100));
+        mFigures.add(where + operation + QStringLiteral(", longest work in it"), mTiming.longestWork() * 1000, ms);
     }
     void addPhases(const QString &where, const Line &line) {
         const double bytesPerSecond = double(line.bitsPerSecond) / Wire::kBitsPerByte;

@@ -2,6 +2,15 @@
 
 #include <algorithm>
 #include <chrono>
+#include <ctime>
+
+namespace {
+double processorSeconds() {
+    timespec now{};
+    ::clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return double(now.tv_sec) + double(now.tv_nsec) / 1e9;
+}
+} // namespace
 
 RadioTiming::RadioTiming() {
     mTicks.setTimerType(Qt::PreciseTimer);
@@ -14,15 +23,24 @@ void RadioTiming::start() {
     mClock.start();
     mLastTurn = 0;
     mLongestGap = 0;
+    mWorkAtLastTurn = processorSeconds();
+    mLongestWork = 0;
     mTicks.start();
 }
 
-void RadioTiming::stop() { mTicks.stop(); }
+// What came behind the last turn counts too.
+void RadioTiming::stop() {
+    turned();
+    mTicks.stop();
+}
 
 void RadioTiming::turned() {
     const double now = seconds();
     mLongestGap = std::max(mLongestGap, now - mLastTurn);
     mLastTurn = now;
+    const double work = processorSeconds();
+    mLongestWork = std::max(mLongestWork, work - mWorkAtLastTurn);
+    mWorkAtLastTurn = work;
 }
 
 void RadioTiming::mobjTransformerEvents_ProgressBarStart(qint32 /*Total*/, const QString & /*strProgressTitle*/) {

@@ -27,7 +27,10 @@ class RadioTiming final : public ProgressEvents {
     void stop();
     [[nodiscard]] double seconds() const { return double(mClock.nsecsElapsed()) / 1e9; }
     [[nodiscard]] const QList<Phase> &phases() const { return mPhases; }
-    [[nodiscard]] double longestGap() const { return mLongestGap; } // seconds between two turns of the event loop
+    // Seconds between two turns of the event loop: elapsed, and of this process on the processor, which a busy machine
+    // does not lengthen.
+    [[nodiscard]] double longestGap() const { return mLongestGap; }
+    [[nodiscard]] double longestWork() const { return mLongestWork; }
 
     void mobjTransformerEvents_ProgressBarStart(qint32 Total, const QString &strProgressTitle) override;
     void mobjTransformerEvents_ProgressPing(qint32 lngIncrement, const QString &strItemName,
@@ -44,6 +47,8 @@ class RadioTiming final : public ProgressEvents {
     QTimer mTicks;
     double mLastTurn = 0;
     double mLongestGap = 0;
+    double mWorkAtLastTurn = 0;
+    double mLongestWork = 0;
     double mPhaseStart = 0;
     QList<Phase> mPhases;
 };

@@ -93,6 +93,7 @@ def read_dictionary(texts: Texts):
             place = f"{name}: {field['id']}"
             texts.add_all((field.get("label", ""), field.get("unit", "")), place)
             texts.add_all(item_texts(field.get("items", [])), place)
+            texts.add_all(field.get("texts", {}).values(), place)
             texts.help.add(field.get("help", ""))
 
 

@@ -14,13 +14,11 @@ class tst_Translation : public QObject {
     void placeholders();
     void parametersAreTranslatedFirst();
     void partsBeyondTheTwentyFirstAreDropped();
-    void englishIsNeverLookedUp_data();
     void englishIsNeverLookedUp();
     void undefinedIsNeverTranslated();
     void dictionaryLines_data();
     void dictionaryLines();
-    void aMissingFileLeavesTheTextsAsTheyAre();
-    void aFileIsReadAsUtf8();
+    void aFileIsReadAsUtf8AndAMissingOneIsEmpty();
 };
 
 void tst_Translation::placeholders_data() {
@@ -75,21 +73,15 @@ void tst_Translation::partsBeyondTheTwentyFirstAreDropped() {
     QCOMPARE(translation.NLSFmt(u"%20:S,%21:S"_s, parts.join(u'|')), u"p20,"_s);
 }
 
-void tst_Translation::englishIsNeverLookedUp_data() {
-    QTest::addColumn<qint32>("language");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("not set up") << 0 << u"Off"_s;
-    QTest::newRow("English") << 1 << u"Off"_s;
-    QTest::newRow("second") << 2 << u"Aus"_s;
-    QTest::newRow("without a section") << 4 << u"Off"_s;
-}
-
 void tst_Translation::englishIsNeverLookedUp() {
-    QFETCH(qint32, language);
     Translation translation;
     translation.Dictionary().LoadText(u"[1]\nOff\twrong\n[2]\nOff\tAus\n"_s);
-    translation.gLanguage = language;
-    QTEST(translation.NLSStr(u"Off"_s), "text");
+    QStringList texts;
+    for (const qint32 language : {0, 1, 2, 4}) { // not set up, English, the table's, without a section
+        translation.gLanguage = language;
+        texts << translation.NLSStr(u"Off"_s);
+    }
+    QCOMPARE(texts.join(u' '), u"Off Off Aus Off"_s);
 }
 
 void tst_Translation::undefinedIsNeverTranslated() {
@@ -112,6 +104,9 @@ void tst_Translation::dictionaryLines_data() {
     QTest::newRow("line without a source is passed over") << u"[2]\n\tb"_s << QString() << QString();
     QTest::newRow("case counts") << u"[2]\nA\tb"_s << u"a"_s << u"a"_s;
     QTest::newRow("empty translation") << u"[2]\na\t"_s << u"a"_s << QString();
+    QTest::newRow("one row for all numbers") << u"[2]\nChannel %1\tCanal %1"_s << u"Channel 12"_s << u"Canal 12"_s;
+    QTest::newRow("a row of its own goes before") << u"[2]\nTone 2\tb\nTone %1\tc %1"_s << u"Tone 2"_s << u"b"_s;
+    QTest::newRow("no number") << u"[2]\nChannel %1\tCanal %1"_s << u"Channel 1a"_s << u"Channel 1a"_s;
     QTest::newRow("section reopened") << u"[2]\na\tb\n[3]\na\tx\n[2]\nc\td"_s << u"c"_s << u"d"_s;
 }
 
@@ -123,25 +118,19 @@ void tst_Translation::dictionaryLines() {
     QTEST(dictionary.Translate(2, text), "translation");
 }
 
-void tst_Translation::aMissingFileLeavesTheTextsAsTheyAre() {
-    const QTemporaryDir folder;
-    TranslationDictionary dictionary;
-    QVERIFY(!dictionary.IsOpen());
-    dictionary.LoadText(u"[2]\na\tb"_s);
-    dictionary.Load(folder.filePath(u"absent.mld"_s));
-    QVERIFY(dictionary.IsOpen());
-    QCOMPARE(dictionary.Translate(2, u"a"_s), u"a"_s);
-}
-
-void tst_Translation::aFileIsReadAsUtf8() {
+void tst_Translation::aFileIsReadAsUtf8AndAMissingOneIsEmpty() {
     const QTemporaryDir folder;
     QFile file(folder.filePath(u"KX4600.mld"_s));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("[2]\nPower\tPuissance \xc3\xa9mise\n");
     file.close();
     TranslationDictionary dictionary;
+    QVERIFY(!dictionary.IsOpen());
     dictionary.Load(file.fileName());
     QCOMPARE(dictionary.Translate(2, u"Power"_s), u"Puissance émise"_s);
+    dictionary.Load(folder.filePath(u"absent.mld"_s));
+    QVERIFY(dictionary.IsOpen());
+    QCOMPARE(dictionary.Translate(2, u"Power"_s), u"Power"_s);
 }
 
 QTEST_GUILESS_MAIN(tst_Translation)

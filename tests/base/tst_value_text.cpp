@@ -17,19 +17,12 @@ class tst_ValueText : public QObject {
     void textForms();
     void numbers_data();
     void numbers();
-    void integersRoundHalvesToEven_data();
     void integersRoundHalvesToEven();
-    void whatDoesNotConvertRaisesThirteen_data();
     void whatDoesNotConvertRaisesThirteen();
-    void undefinedIsOneExactWord_data();
     void undefinedIsOneExactWord();
-    void currencyTexts_data();
     void currencyTexts();
-    void currencyFromDoubleIsNearest_data();
     void currencyFromDoubleIsNearest();
-    void paddingNeverCuts_data();
     void paddingNeverCuts();
-    void trimTakesBlanksOnly_data();
     void trimTakesBlanksOnly();
     void emptyValuesStayEmptyParts();
 };
@@ -89,120 +82,70 @@ void tst_ValueText::numbers() {
     QCOMPARE(ValueText::number(value).value_or(0), number);
 }
 
-void tst_ValueText::integersRoundHalvesToEven_data() {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<qint32>("integer");
-    QTest::newRow("0.5") << QVariant(0.5) << 0;
-    QTest::newRow("1.5") << QVariant(u"1.5"_s) << 2;
-    QTest::newRow("2.5") << QVariant(2.5) << 2;
-    QTest::newRow("-2.5") << QVariant(-2.5) << -2;
-    QTest::newRow("largest") << QVariant(qint64(std::numeric_limits<qint32>::max()))
-                             << std::numeric_limits<qint32>::max();
-    QTest::newRow("smallest") << QVariant(qint64(std::numeric_limits<qint32>::min()))
-                              << std::numeric_limits<qint32>::min();
-}
-
 void tst_ValueText::integersRoundHalvesToEven() {
-    QFETCH(QVariant, value);
-    QTEST(ValueText::toInteger(value), "integer");
-    QTEST(ValueText::toIntegerOr(value, 99), "integer");
-}
-
-void tst_ValueText::whatDoesNotConvertRaisesThirteen_data() {
-    QTest::addColumn<QVariant>("value");
-    QTest::newRow("text") << QVariant(u"abc"_s);
-    QTest::newRow("Empty") << QVariant();
-    QTest::newRow("too large") << QVariant(qint64(std::numeric_limits<qint32>::max()) + 1);
-    QTest::newRow("too small") << QVariant(u"-3e9"_s);
+    constexpr qint32 kLeast = std::numeric_limits<qint32>::min();
+    constexpr qint32 kMost = std::numeric_limits<qint32>::max();
+    const std::pair<QVariant, qint32> rows[] = {{0.5, 0},   {u"1.5"_s, 2},          {2.5, 2},
+                                                {-2.5, -2}, {qint64(kMost), kMost}, {qint64(kLeast), kLeast}};
+    for (const auto &[value, integer] : rows) {
+        QCOMPARE(ValueText::toInteger(value), integer);
+        QCOMPARE(ValueText::toIntegerOr(value, 99), integer);
+    }
 }
 
 void tst_ValueText::whatDoesNotConvertRaisesThirteen() {
-    QFETCH(QVariant, value);
-    QCOMPARE(ValueText::toIntegerOr(value, 99), 99);
-    qint32 number = 0;
-    try {
-        (void)ValueText::toInteger(value);
-    } catch (const RunTimeError &error) {
-        number = error.Number;
+    const qint64 tooLarge = qint64(std::numeric_limits<qint32>::max()) + 1;
+    for (const QVariant &value : {QVariant(u"abc"_s), QVariant(), QVariant(tooLarge), QVariant(u"-3e9"_s)}) {
+        QCOMPARE(ValueText::toIntegerOr(value, 99), 99);
+        qint32 number = 0;
+        try {
+            (void)ValueText::toInteger(value);
+        } catch (const RunTimeError &error) {
+            number = error.Number;
+        }
+        QCOMPARE(number, ErrorNumber::kConversion);
     }
-    QCOMPARE(number, ErrorNumber::kConversion);
-}
-
-void tst_ValueText::undefinedIsOneExactWord_data() {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<bool>("undefined");
-    QTest::newRow("the word") << QVariant(u"Undefined"_s) << true;
-    QTest::newRow("other case") << QVariant(u"undefined"_s) << false;
-    QTest::newRow("blank behind") << QVariant(u"Undefined "_s) << false;
-    QTest::newRow("Empty") << QVariant() << false;
-    QTest::newRow("number") << QVariant(0) << false;
 }
 
 void tst_ValueText::undefinedIsOneExactWord() {
-    QFETCH(QVariant, value);
-    QTEST(ValueText::isUndefined(value), "undefined");
-}
-
-void tst_ValueText::currencyTexts_data() {
-    QTest::addColumn<qint64>("count");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("four decimals") << qint64(125) << u"0.0125"_s;
-    QTest::newRow("trailing zeros go") << qint64(12500) << u"1.25"_s;
-    QTest::newRow("zeros inside stay") << qint64(10010) << u"1.001"_s;
-    QTest::newRow("whole") << qint64(50000) << u"5"_s;
-    QTest::newRow("nothing") << qint64(0) << u"0"_s;
-    QTest::newRow("negative below one") << qint64(-125) << u"-0.0125"_s;
-    QTest::newRow("smallest") << std::numeric_limits<qint64>::min() << u"-922337203685477.5808"_s;
+    QVERIFY(ValueText::isUndefined(u"Undefined"_s));
+    for (const QVariant &value : {QVariant(u"undefined"_s), QVariant(u"Undefined "_s), QVariant(), QVariant(0)})
+        QVERIFY2(!ValueText::isUndefined(value), qPrintable(value.toString()));
 }
 
 void tst_ValueText::currencyTexts() {
-    QFETCH(qint64, count);
-    QTEST(Currency::fromTenThousandths(count).toString(), "text");
-}
-
-void tst_ValueText::currencyFromDoubleIsNearest_data() {
-    QTest::addColumn<double>("value");
-    QTest::addColumn<qint64>("count");
-    QTest::newRow("12.5 kHz step") << 0.0125 << qint64(125);
-    QTest::newRow("not exact in binary") << 0.1 << qint64(1000);
-    QTest::newRow("below half a count") << 0.00004 << qint64(0);
-    QTest::newRow("negative") << -1.2345 << qint64(-12345);
+    const std::pair<qint64, QString> rows[] = {{125, u"0.0125"_s},
+                                               {12500, u"1.25"_s},
+                                               {10010, u"1.001"_s},
+                                               {50000, u"5"_s},
+                                               {0, u"0"_s},
+                                               {-125, u"-0.0125"_s},
+                                               {std::numeric_limits<qint64>::min(), u"-922337203685477.5808"_s}};
+    for (const auto &[count, text] : rows)
+        QCOMPARE(Currency::fromTenThousandths(count).toString(), text);
 }
 
 void tst_ValueText::currencyFromDoubleIsNearest() {
-    QFETCH(double, value);
-    QTEST(Currency::fromDouble(value).tenThousandths(), "count");
-}
-
-void tst_ValueText::paddingNeverCuts_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("width");
-    QTest::addColumn<QString>("padded");
-    QTest::newRow("shorter") << u"34"_s << 4 << u"0034"_s;
-    QTest::newRow("equal") << u"1234"_s << 4 << u"1234"_s;
-    QTest::newRow("longer") << u"12345"_s << 4 << u"12345"_s;
-    QTest::newRow("empty") << QString() << 2 << u"00"_s;
-    QTest::newRow("no width") << u"7"_s << 0 << u"7"_s;
+    const std::pair<double, qint64> rows[] = {{0.0125, 125}, {0.1, 1000}, {0.00004, 0}, {-1.2345, -12345}};
+    for (const auto &[value, count] : rows)
+        QCOMPARE(Currency::fromDouble(value).tenThousandths(), count);
 }
 
 void tst_ValueText::paddingNeverCuts() {
-    QFETCH(QString, text);
-    QFETCH(int, width);
-    QTEST(LeftPadString(text, u'0', width), "padded");
-}
-
-void tst_ValueText::trimTakesBlanksOnly_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("trimmed");
-    QTest::newRow("both ends") << u"  a b "_s << u"a b"_s;
-    QTest::newRow("tab stays") << u" \ta "_s << u"\ta"_s;
-    QTest::newRow("no-break blank stays") << u"\u00a0a"_s << u"\u00a0a"_s;
-    QTest::newRow("blanks only") << u"   "_s << QString();
+    const std::tuple<QString, int, QString> rows[] = {{u"34"_s, 4, u"0034"_s},
+                                                      {u"1234"_s, 4, u"1234"_s},
+                                                      {u"12345"_s, 4, u"12345"_s},
+                                                      {QString(), 2, u"00"_s},
+                                                      {u"7"_s, 0, u"7"_s}};
+    for (const auto &[text, width, padded] : rows)
+        QCOMPARE(LeftPadString(text, u'0', width), padded);
 }
 
 void tst_ValueText::trimTakesBlanksOnly() {
-    QFETCH(QString, text);
-    QTEST(TrimBlanks(text), "trimmed");
+    QCOMPARE(TrimBlanks(u"  a b "_s), u"a b"_s);
+    QCOMPARE(TrimBlanks(u" \ta "_s), u"\ta"_s);
+    QCOMPARE(TrimBlanks(u"\u00a0a"_s), u"\u00a0a"_s);
+    QCOMPARE(TrimBlanks(u"   "_s), QString());
 }
 
 void tst_ValueText::emptyValuesStayEmptyParts() {

@@ -24,6 +24,8 @@ const FileMutants::Kind FileMutants::kResealed[] = {
     {"header of another radio", &FileMutants::otherHeader, false},
     {"deep nesting", &FileMutants::deepNesting, false},
     {"broken text", &FileMutants::brokenText, false},
+    {"record that is none", &FileMutants::noRecord, false},
+    {"later program's parts", &FileMutants::laterParts, false},
     {"byte changed, sealed", &FileMutants::flippedByte, true},
 };
 
@@ -97,18 +99,23 @@ QByteArray FileMutants::wrongValue(Random &random) const {
     if (!place.field->isTextual())
         return withValue(place, kNumbers[below(random, std::ssize(kNumbers))]);
     const QByteArray texts[] = {QByteArray(place.field->length + 1, place.field->mask.isEmpty() ? 'x' : '0'),
-                                QByteArray("\u4e2d"), QByteArray("\\u0000")};
+                                QByteArray("\u4e2d"),
+                                QByteArray("\\u0000"),
+                                QByteArray("\xff"),
+                                QByteArray("\\x"),
+                                QByteArray("\\u12g4")};
     return withValue(place, '"' + texts[below(random, std::ssize(texts))] + '"');
 }
 
 QByteArray FileMutants::wrongType(Random &random) const {
-    static const QByteArray kOthers[] = {"null", "true", "[]", "{}", "[1]"};
+    static const QByteArray kOthers[] = {"null", "true", "false", "[]", "{}", "[1]", "01", "1.", "-", "1e", "nul"};
     return withValue(randomValue(random), kOthers[below(random, std::ssize(kOthers))]);
 }
 
 QByteArray FileMutants::tooManyRecords(Random &random) const {
-    static const QByteArray kTables[] = {"\"Channel\": [", "\"Network\": [", "\"ScanGroup\": [", "\"AudioSource\": [",
-                                         "\"DigitalPin\": ["};
+    static const QByteArray kTables[] = {"\"Channel\": [",     "\"Network\": [",    "\"ScanGroup\": [",
+                                         "\"AudioSource\": [", "\"DigitalPin\": [", "\"CustomerData\": [",
+                                         "\"GroupMember\": ["};
     const QByteArray &table = kTables[below(random, std::ssize(kTables))];
     const qsizetype at = mSound.indexOf(table) + table.size();
     return QByteArray(mSound).insert(at, QByteArray("{},").repeated(3000));
@@ -150,4 +157,17 @@ QByteArray FileMutants::brokenText(Random &random) const {
     const qsizetype at =
         mSound.indexOf(kMarks[below(random, std::ssize(kMarks))], tiers + below(random, (end - tiers) / 2));
     return QByteArray(mSound).remove(at, 1);
+}
+
+QByteArray FileMutants::noRecord(Random &random) const {
+    static const QByteArray kOthers[] = {"7,", "null,", "[],", "\"a\","};
+    return QByteArray(mSound).replace("{\"ChannelID_q7r\": 1,",
+                                      kOthers[below(random, std::ssize(kOthers))] + "{\"ChannelID_q7r\": 1,");
+}
+
+// What this program does not know may stand anywhere; a wrong value behind it is found all the same.
+QByteArray FileMutants::laterParts(Random &random) const {
+    QByteArray text = wrongType(random);
+    text.replace("\"tiers\": {", "\"later\": {\"a\": [true, false]},\n\"tiers\": {\n\"Later\": {\"a\": 1.5e3},");
+    return text.replace("{\"ChannelID_q7r\"", "{\"L\\u0061ter\": \"\\\"x\\\"\", \"ChannelID_q7r\"");
 }

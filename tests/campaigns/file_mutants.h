@@ -39,6 +39,8 @@ class FileMutants {
     [[nodiscard]] QByteArray otherHeader(Campaign::Random &random) const;
     [[nodiscard]] QByteArray deepNesting(Campaign::Random &random) const;
     [[nodiscard]] QByteArray brokenText(Campaign::Random &random) const;
+    [[nodiscard]] QByteArray noRecord(Campaign::Random &random) const;
+    [[nodiscard]] QByteArray laterParts(Campaign::Random &random) const;
     // Start and length of the value of a random field, and the field.
     struct Place {
         qsizetype at;

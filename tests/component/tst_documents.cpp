@@ -83,7 +83,7 @@ void tst_documents::savedFileComesBackAndClearsTheMarks() {
     const std::unique_ptr<TransformerComponent> other = window();
     mListener.clear();
     other->ReadFile(file, 0, 0, false);
-    QCOMPARE(mListener.log, QStringList{QStringLiteral("ChangeToTier Standard")});
+    QCOMPARE(mListener.of(QStringLiteral("ChangeToTier")), QStringList{QStringLiteral("ChangeToTier Standard")});
     QCOMPARE(get(*other, "EconomyTimer"), QStringLiteral("33"));
     QVERIFY(!other->GetDataIsDirty());
     QString model, database, application, networks, comment, reserved;

@@ -141,30 +141,20 @@ void tst_import::refusedCellsAreToldByRowAndColumn_data() {
     QTest::addColumn<QString>("selection");
     QTest::addColumn<QString>("told");
     QTest::addColumn<QString>("channels"); // of two
-    QTest::newRow("outside the limits") << "9\t200\tLow"
-                                        << "1"
-                                        << "Row 1, column 2 (Rx Frequency): Rx Frequency must lie between 136 MHz"
-                                        << "9 160 1,2 160 3";
-    QTest::newRow("no item") << "ID\tTx Power\n9\tLowest"
-                             << "1"
-                             << "Row 2, column 2 (Tx Power): Lowest is not in the list"
-                             << "9 160 3,2 160 3";
-    QTest::newRow("identity in use") << "2\t150\tLow\n2\t151\tLow"
-                                     << ""
-                                     << "Row 1, column 1 (ID): ID 2 is already in use"
-                                     << "1 160 3,2 160 3,3 150 1,4 151 1";
-    QTest::newRow("identity twice") << "7\t150\tLow\n7\t151\tLow"
-                                    << "1"
-                                    << "Row 2, column 1 (ID): ID 7 is already in use"
-                                    << "7 150 1,2 160 3,1 151 1";
-    QTest::newRow("identity that stays in use") << "2\t150\tLow\n0\t151\tLow"
-                                                << "1|2"
-                                                << "Row 1, column 1 (ID): ID 2 is already in use"
-                                                << "1 150 1,2 151 1";
-    QTest::newRow("behind the last column") << "9\t150\tLow\textra"
-                                            << "1"
-                                            << "Row 1, column 4: There is no column for this cell."
-                                            << "9 150 1,2 160 3";
+    const auto row = [](const char *name, const char *first, const char *second, const char *third,
+                        const char *fourth) { QTest::newRow(name) << first << second << third << fourth; };
+    row("outside the limits", "9\t200\tLow", "1",
+        "Row 1, column 2 (Rx Frequency): Rx Frequency must lie between 136 MHz", "9 160 1,2 160 3");
+    row("no item", "ID\tTx Power\n9\tLowest", "1", "Row 2, column 2 (Tx Power): Lowest is not in the list",
+        "9 160 3,2 160 3");
+    row("identity in use", "2\t150\tLow\n2\t151\tLow", "", "Row 1, column 1 (ID): ID 2 is already in use",
+        "1 160 3,2 160 3,3 150 1,4 151 1");
+    row("identity twice", "7\t150\tLow\n7\t151\tLow", "1", "Row 2, column 1 (ID): ID 7 is already in use",
+        "7 150 1,2 160 3,1 151 1");
+    row("identity that stays in use", "2\t150\tLow\n0\t151\tLow", "1|2", "Row 1, column 1 (ID): ID 2 is already in use",
+        "1 150 1,2 151 1");
+    row("behind the last column", "9\t150\tLow\textra", "1", "Row 1, column 4: There is no column for this cell.",
+        "9 150 1,2 160 3");
 }
 
 void tst_import::refusedCellsAreToldByRowAndColumn() {

@@ -89,42 +89,17 @@ void tst_ctl::valuesGoInAndComeOut_data() {
     QTest::addColumn<QString>("address");
     QTest::addColumn<QString>("shown");
     QTest::addColumn<QString>("raw");
-    QTest::newRow("number") << "EconomyTimer=20"
-                            << "EconomyTimer"
-                            << "20"
-                            << "20";
-    QTest::newRow("frequency") << "RxFreq_q7r(1)=156.5"
-                               << "RxFreq_q7r(1)"
-                               << "156.500000"
-                               << "156500000";
-    QTest::newRow("stored frequency") << "RxFreq_q7r(1)=#150000000"
-                                      << "RxFreq_q7r(1)"
-                                      << "150.000000"
-                                      << "150000000";
-    QTest::newRow("list item") << "TxPower_q7r(1)=Low"
-                               << "TxPower_q7r(1)"
-                               << "Low"
-                               << "1";
-    QTest::newRow("stored list item") << "TxPower_q7r(1)=#2"
-                                      << "TxPower_q7r(1)"
-                                      << "Medium"
-                                      << "2";
-    QTest::newRow("item with a value of its own") << "ChannelBandwidth_q7r(1)=25 kHz"
-                                                  << "ChannelBandwidth_q7r(1)"
-                                                  << "25 kHz"
-                                                  << "250";
-    QTest::newRow("tone") << "RxSignalling_q7r(1)=67.0 Hz"
-                          << "RxSignalling_q7r(1)"
-                          << "67.0 Hz"
-                          << "1";
-    QTest::newRow("flag") << "IsUserDefined_q7r(1)=1"
-                          << "IsUserDefined_q7r(1)"
-                          << "1"
-                          << "1";
-    QTest::newRow("reference") << "ChannelNetworkId_q7r(1)=1"
-                               << "ChannelNetworkId_q7r(1)"
-                               << "1"
-                               << "1";
+    const auto row = [](const char *name, const char *first, const char *second, const char *third,
+                        const char *fourth) { QTest::newRow(name) << first << second << third << fourth; };
+    row("number", "EconomyTimer=20", "EconomyTimer", "20", "20");
+    row("frequency", "RxFreq_q7r(1)=156.5", "RxFreq_q7r(1)", "156.500000", "156500000");
+    row("stored frequency", "RxFreq_q7r(1)=#150000000", "RxFreq_q7r(1)", "150.000000", "150000000");
+    row("list item", "TxPower_q7r(1)=Low", "TxPower_q7r(1)", "Low", "1");
+    row("stored list item", "TxPower_q7r(1)=#2", "TxPower_q7r(1)", "Medium", "2");
+    row("item with a value of its own", "ChannelBandwidth_q7r(1)=25 kHz", "ChannelBandwidth_q7r(1)", "25 kHz", "250");
+    row("tone", "RxSignalling_q7r(1)=67.0 Hz", "RxSignalling_q7r(1)", "67.0 Hz", "1");
+    row("flag", "IsUserDefined_q7r(1)=1", "IsUserDefined_q7r(1)", "1", "1");
+    row("reference", "ChannelNetworkId_q7r(1)=1", "ChannelNetworkId_q7r(1)", "1", "1");
 }
 
 void tst_ctl::valuesGoInAndComeOut() {

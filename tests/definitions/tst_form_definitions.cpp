@@ -30,69 +30,61 @@ class FormDefinitionsTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void catalogueHoldsEveryFormWithItsControls_data();
     void catalogueHoldsEveryFormWithItsControls();
     void catalogueRefusesUnknownNameButNotOtherCase();
     void readerRefusesWhatDoesNotBelong_data();
     void readerRefusesWhatDoesNotBelong();
     void noFrameIsEmptyNorADataFieldBoundTwice();
-    void gridColumnsAreWellFormed();
     void callUpsNameAFormAndNumberTheirRecords();
-    void captionsKeepTheirTrailingBlanks();
     void absentKeyHasTheDefaultOfItsClass();
     void navigatorButtonsFollowTheSliderStyle();
     void tabOrderBeginsWithTheTabControlAndEndsWithTheNavigator();
     void jsonNamesParentsAndKeepsPropertyNames();
 };
 
-void FormDefinitionsTest::catalogueHoldsEveryFormWithItsControls_data() {
-    QTest::addColumn<int>("helpId");
-    QTest::addColumn<int>("pages");
-    QTest::addColumn<int>("fields");
-    QTest::addColumn<int>("grids");
-    QTest::addColumn<int>("navigators");
-    QTest::newRow("usrctlSpecificationsKX4600") << 101000 << 0 << 4 << 0 << 0;
-    QTest::newRow("usrctlStartupKX4600") << 0 << 0 << 13 << 0 << 0;
-    QTest::newRow("usrctlUIPreferencesKX4600") << 0 << 0 << 17 << 1 << 0;
-    QTest::newRow("usrctlKeySettingsKX4600") << 104000 << 0 << 8 << 0 << 0;
-    QTest::newRow("usrctlProgIOKX4600") << 0 << 3 << 17 << 2 << 0;
-    QTest::newRow("usrctlEconomyKX4600") << 401000 << 0 << 2 << 0 << 0;
-    QTest::newRow("usrctlRxMonitorKX4600") << 401000 << 0 << 3 << 0 << 0;
-    QTest::newRow("usrctlChannelsKX4600") << 404000 << 4 << 29 << 1 << 1;
-    QTest::newRow("usrctlScanGroupsKX4600") << 406000 << 4 << 33 << 1 << 1;
-    QTest::newRow("usrctlNetworks") << 0 << 5 << 46 << 0 << 1;
-    QTest::newRow("usrctlNetworkData") << 0 << 7 << 73 << 1 << 0;
-    QTest::newRow("usrctlNetworkFeatures") << 409000 << 0 << 11 << 0 << 1;
-    QTest::newRow("usrctlNetworkPTT") << 409000 << 0 << 13 << 0 << 1;
-    QTest::newRow("usrctlPTT") << 0 << 3 << 39 << 0 << 0;
-    QTest::newRow("usrctlEmergencyKX4600") << 0 << 3 << 22 << 0 << 1;
-    QTest::newRow("usrctlAlerts") << 0 << 6 << 34 << 0 << 1;
-    QTest::newRow("usrctlSelcallSetupKX4600") << 0 << 2 << 13 << 1 << 1;
-    QTest::newRow("usrctlSelcallToneSettings") << 519000 << 0 << 27 << 0 << 1;
-    QTest::newRow("usrctlFixedFormatBursts") << 0 << 0 << 0 << 6 << 1;
-    QTest::newRow("usrctlFreeFormatKX4600") << 513000 << 0 << 11 << 0 << 1;
-    QTest::newRow("usrctlFreeFormatDetail") << 513000 << 0 << 11 << 0 << 1;
-    QTest::newRow("usrctlDTMF") << 0 << 2 << 13 << 1 << 1;
-    QTest::newRow("usrctlDTMFPatch") << 0 << 0 << 20 << 0 << 1;
-    QTest::newRow("usrctlType99") << 0 << 0 << 18 << 0 << 1;
-    QTest::newRow("usrctlMDC1200") << 0 << 0 << 5 << 0 << 1;
-    QTest::newRow("usrctlControlStatusKX4600") << 0 << 0 << 0 << 1 << 1;
-}
-
 void FormDefinitionsTest::catalogueHoldsEveryFormWithItsControls() {
-    QFETCH(int, helpId);
-    QFETCH(int, pages);
-    QFETCH(int, fields);
-    QFETCH(int, grids);
-    QFETCH(int, navigators);
+    struct Row {
+        const char *name;
+        int helpId, pages, fields, grids, navigators;
+    };
+    constexpr Row kRows[] = {
+        {"usrctlSpecificationsKX4600", 101000, 0, 4, 0, 0},
+        {"usrctlStartupKX4600", 0, 0, 13, 0, 0},
+        {"usrctlUIPreferencesKX4600", 0, 0, 17, 1, 0},
+        {"usrctlKeySettingsKX4600", 104000, 0, 8, 0, 0},
+        {"usrctlProgIOKX4600", 0, 3, 17, 2, 0},
+        {"usrctlEconomyKX4600", 401000, 0, 2, 0, 0},
+        {"usrctlRxMonitorKX4600", 401000, 0, 3, 0, 0},
+        {"usrctlChannelsKX4600", 404000, 4, 29, 1, 1},
+        {"usrctlScanGroupsKX4600", 406000, 4, 33, 1, 1},
+        {"usrctlNetworks", 0, 5, 46, 0, 1},
+        {"usrctlNetworkData", 0, 7, 73, 1, 0},
+        {"usrctlNetworkFeatures", 409000, 0, 11, 0, 1},
+        {"usrctlNetworkPTT", 409000, 0, 13, 0, 1},
+        {"usrctlPTT", 0, 3, 39, 0, 0},
+        {"usrctlEmergencyKX4600", 0, 3, 22, 0, 1},
+        {"usrctlAlerts", 0, 6, 34, 0, 1},
+        {"usrctlSelcallSetupKX4600", 0, 2, 13, 1, 1},
+        {"usrctlSelcallToneSettings", 519000, 0, 27, 0, 1},
+        {"usrctlFixedFormatBursts", 0, 0, 0, 6, 1},
+        {"usrctlFreeFormatKX4600", 513000, 0, 11, 0, 1},
+        {"usrctlFreeFormatDetail", 513000, 0, 11, 0, 1},
+        {"usrctlDTMF", 0, 2, 13, 1, 1},
+        {"usrctlDTMFPatch", 0, 0, 20, 0, 1},
+        {"usrctlType99", 0, 0, 18, 0, 1},
+        {"usrctlMDC1200", 0, 0, 5, 0, 1},
+        {"usrctlControlStatusKX4600", 0, 0, 0, 1, 1},
+    };
     FormCatalogue catalogue;
-    QCOMPARE(catalogue.names().size(), 26);
-    const FormDefinition &form = catalogue.form(QString::fromLatin1(QTest::currentDataTag()));
-    QCOMPARE(form.helpId(), helpId);
-    QCOMPARE(int(form.pages.size()), pages);
-    QCOMPARE(countOf(form, &ControlClasses::isField), fields);
-    QCOMPARE(countOf(form, [](const QString &type) { return type == u"fldGridField"; }), grids);
-    QCOMPARE(countOf(form, [](const QString &type) { return type == u"fldPageNavigator"; }), navigators);
+    QCOMPARE(catalogue.names().size(), std::ssize(kRows));
+    for (const Row &row : kRows) {
+        const FormDefinition &form = catalogue.form(QString::fromLatin1(row.name));
+        QVERIFY2(form.helpId() == row.helpId && int(form.pages.size()) == row.pages, row.name);
+        QVERIFY2(countOf(form, &ControlClasses::isField) == row.fields, row.name);
+        QVERIFY2(countOf(form, [](const QString &type) { return type == u"fldGridField"; }) == row.grids, row.name);
+        QVERIFY2(countOf(form, [](const QString &type) { return type == u"fldPageNavigator"; }) == row.navigators,
+                 row.name);
+    }
 }
 
 void FormDefinitionsTest::catalogueRefusesUnknownNameButNotOtherCase() {
@@ -189,27 +181,6 @@ void FormDefinitionsTest::noFrameIsEmptyNorADataFieldBoundTwice() {
     }
 }
 
-void FormDefinitionsTest::gridColumnsAreWellFormed() {
-    static const QStringList types{QStringLiteral("Text"), QStringLiteral("Combo"), QStringLiteral("ID Tracker")};
-    static const QRegularExpression width(QStringLiteral("^[0-9]+ *$"));
-    FormCatalogue catalogue;
-    int columns = 0;
-    for (const QString &name : catalogue.names()) {
-        for (const PlacedControl &placed : catalogue.form(name).placedControls()) {
-            if (placed.control->typeName != u"fldGridField")
-                continue;
-            QStringList items = placed.control->property(QStringLiteral("Fields")).toString().split(u'|');
-            QVERIFY2(items.takeLast().isEmpty() && items.size() % 5 == 0, qPrintable(placed.control->name));
-            for (qsizetype i = 0; i < items.size(); i += 5, ++columns) {
-                QVERIFY2(width.match(items[i + 2]).hasMatch() && types.contains(items[i + 3]) &&
-                             (items[i + 4] == u"0" || items[i + 4] == u"-1"),
-                         qPrintable(placed.control->name + items[i + 1]));
-            }
-        }
-    }
-    QCOMPARE(columns, 50);
-}
-
 void FormDefinitionsTest::callUpsNameAFormAndNumberTheirRecords() {
     FormCatalogue catalogue;
     QList<int> records;
@@ -220,14 +191,6 @@ void FormDefinitionsTest::callUpsNameAFormAndNumberTheirRecords() {
         records.push_back(placed.control->property(QStringLiteral("SubFormRecordNr")).toInt());
     }
     QCOMPARE(records, QList<int>({0, 2, 3, 4, 5, 6, 7})); // the first gets its number at the navigator's first move
-}
-
-void FormDefinitionsTest::captionsKeepTheirTrailingBlanks() {
-    FormCatalogue catalogue;
-    for (const PlacedControl &placed : catalogue.form(QStringLiteral("usrctlChannelsKX4600")).placedControls()) {
-        if (placed.control->name == u"fldFrame2")
-            QCOMPARE(placed.control->caption(), QStringLiteral("Caller ID Burst           "));
-    }
 }
 
 void FormDefinitionsTest::absentKeyHasTheDefaultOfItsClass() {

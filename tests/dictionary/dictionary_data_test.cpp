@@ -2,6 +2,7 @@
 #include "form_catalogue.h"
 #include "run_time_error.h"
 
+#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
@@ -21,8 +22,10 @@ class DictionaryDataTest : public QObject {
     void defaultsBelongToEachTier();
     void formsShowFieldsOfTheirKind();
     void accessAndVersionLevelsAreUsed();
+    void everyShownTextHasItsRowInTheTranslationTable();
 
   private:
+    [[nodiscard]] QStringList shownTexts() const;
     void checkControl(const QString &form, const ControlDefinition &control);
     void checkColumns(const QString &form, const ControlDefinition &grid);
     void checkShown(const QString &form, const QString &id, const QString &as);
@@ -172,11 +175,14 @@ void DictionaryDataTest::checkShown(const QString &form, const QString &id, cons
 
 void DictionaryDataTest::checkColumns(const QString &form, const ControlDefinition &grid) {
     constexpr qsizetype kParts = 5; // number format, UIID, width, type, locked
+    static const QRegularExpression width(QStringLiteral("^[0-9]+ *$"));
     const QStringList parts = grid.property(QStringLiteral("Fields")).toString().split(u'|');
     QVERIFY2(mDictionary->structureOf(grid.id()).has_value(), qPrintable(grid.id()));
     for (qsizetype first = 0; first + kParts <= parts.size(); first += kParts) {
         const QString &id = parts[first + 1];
-        checkShown(form, id, parts[first + 3].trimmed());
+        checkShown(form, id, parts[first + 3]);
+        QVERIFY2(width.match(parts[first + 2]).hasMatch() && (parts[first + 4] == u"0" || parts[first + 4] == u"-1"),
+                 qPrintable(id));
         QCOMPARE(mDictionary->structureOf(id), mDictionary->structureOf(grid.id()));
         const bool isFrequency = mDictionary->find(id)->decimals == FieldDefinition::kFrequencyDecimals;
         QCOMPARE(parts[first].trimmed(), isFrequency ? QStringLiteral("000.000000") : QString());
@@ -216,6 +222,38 @@ void DictionaryDataTest::accessAndVersionLevelsAreUsed() {
     }
     QVERIFY(byAccess[20] >= 15 && byAccess[80] >= 25 && byAccess[40] > 0 && byAccess[60] > 0);
     QVERIFY(newer >= 20 && formsOfNewerFields.size() >= 5);
+}
+
+QStringList DictionaryDataTest::shownTexts() const {
+    QStringList texts;
+    for (const FieldDefinition &field : mDictionary->fields()) {
+        texts << field.label << field.to.texts;
+        for (const ListItem &item : field.items)
+            texts << item.text;
+    }
+    for (const RecordStructure &structure : mDictionary->structures())
+        texts << structure.label << structure.navigatorLabel << structure.navigatorRecords;
+    for (const TreeEntry &entry : mDictionary->tree(TierIndex(qint32(mDictionary->tiers().size()) - 1)))
+        texts << entry.caption;
+    return texts;
+}
+
+// Numbers with their units, tone names and the like read the same in every language.
+void DictionaryDataTest::everyShownTextHasItsRowInTheTranslationTable() {
+    QFile file(QStringLiteral(KX_TRANSLATION_FILE));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QSet<QString> rows;
+    for (const QString &line : QString::fromUtf8(file.readAll()).split(u'\n'))
+        rows.insert(line.section(u'\t', 0, 0));
+    static const QRegularExpression word(QStringLiteral("[A-Za-z]{4}"));
+    int told = 0;
+    for (const QString &text : shownTexts()) {
+        if (!text.contains(word))
+            continue;
+        QVERIFY2(rows.contains(text), qPrintable(text));
+        ++told;
+    }
+    QVERIFY2(told > 1000, qPrintable(QString::number(told)));
 }
 
 QTEST_GUILESS_MAIN(DictionaryDataTest)

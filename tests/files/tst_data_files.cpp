@@ -3,12 +3,17 @@
 #include "dictionary_loader.h"
 #include "field_defaults.h"
 #include "file_problem.h"
+#include "json_text.h"
 #include "restore_points.h"
 #include "sealed_text.h"
+#include "sha256.h"
 #include "whole_file.h"
 
+#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -27,12 +32,15 @@ class tst_data_files : public QObject {
     void initTestCase();
     void everyStoredValueSurvivesTheFile_data();
     void everyStoredValueSurvivesTheFile();
+    void keysMayStandInAnyOrderAndSpelling();
     void unknownFieldsAreWrittenBackWhereTheyStood();
     void unknownFieldsFollowTheirRecord();
+    void everyFaultOfTheGrammarIsFound_data();
+    void everyFaultOfTheGrammarIsFound();
+    void checksumIsThatOfTheStandard();
     void damagedFileIsRefusedWithItsPath_data();
     void damagedFileIsRefusedWithItsPath();
-    void everyFlippedByteIsNoticed();
-    void everyTruncationIsNoticed();
+    void everyFlippedByteAndTruncationIsNoticed();
     void replacedFileLeavesTheOldOneAsBackup();
     void failedWriteLeavesTheOldFile();
     void onlyTheNewestRestorePointsStay();
@@ -100,6 +108,23 @@ void tst_data_files::everyStoredValueSurvivesTheFile() {
     QVERIFY(!again.data.current().sameValues(TierData(*mDictionary, TierIndex(tier))));
 }
 
+// Other programs sort the keys of a file, break its lines elsewhere or escape more than we do.
+void tst_data_files::keysMayStandInAnyOrderAndSpelling() {
+    DataDocument document(*mDictionary);
+    changeEverything(document.data.current());
+    const QByteArray text = textOf(document);
+    const qsizetype tiers = text.indexOf("\"tiers\"");
+    const QJsonValue values = QJsonDocument::fromJson(text).object().value(QStringLiteral("tiers"));
+    for (const auto format : {QJsonDocument::Compact, QJsonDocument::Indented}) {
+        const QByteArray sorted = QJsonDocument(values.toObject()).toJson(format).trimmed();
+        QByteArray other = text.first(tiers) + "\"tiers\" : " + sorted + " ,\n";
+        other.replace("\"EconomyTimer\"", "\"\\u0045conomyTimer\"");
+        const DataDocument again = read(SealedText::seal(other));
+        QVERIFY(DataDocuments::sameContent(again.data, document.data));
+        QVERIFY(!textOf(again).contains("u0045"));
+    }
+}
+
 void tst_data_files::unknownFieldsAreWrittenBackWhereTheyStood() {
     QByteArray text = textOf(DataDocument(*mDictionary));
     text.replace("\"EconomyTimer\"", "\"LaterField\": {\"deep\": [1, null]},\n\"EconomyTimer\"");
@@ -124,6 +149,42 @@ void tst_data_files::unknownFieldsFollowTheirRecord() {
     for (qint32 number = 1; number <= 4; ++number)
         order.append(unknown.ofRecord(tier, channel, {0, number}).value(QStringLiteral("n")).toInt());
     QCOMPARE(order, QList<int>({4, 0, 2, 3}));
+}
+
+void tst_data_files::everyFaultOfTheGrammarIsFound_data() {
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<int>("fault"); // byte; -1: sound
+    const auto row = [](const QByteArray &text, int fault) { QTest::addRow("%s", text.constData()) << text << fault; };
+    row(R"( {"a": [1, -0.5e+3, true, null, "\u00e9\n"], "b": {} } )", -1);
+    row("", 0);
+    row("[1] 2", 4);
+    row("[1,]", 3);
+    row("[1 2]", 3);
+    row("{\"a\" 1}", 5);
+    row("{a: 1}", 1);
+    row("[01]", 2);
+    row("[1.]", 3);
+    row("[-]", 2);
+    row("[1e]", 3);
+    row("[nul]", 1);
+    row("\"a", 2);
+    row("\"\t\"", 1);
+    row(R"("\x")", 2);
+    row(R"("\u12g4")", 5);
+    QTest::newRow("deep") << QByteArray(JsonText::kDeepest, '[') + QByteArray(JsonText::kDeepest, ']') << -1;
+    QTest::newRow("too deep") << QByteArray(100000, '[') << JsonText::kDeepest + 1;
+}
+
+void tst_data_files::everyFaultOfTheGrammarIsFound() {
+    QFETCH(QByteArray, text);
+    QFETCH(int, fault);
+    QCOMPARE(int(JsonText::fault(text).value_or(-1)), fault);
+}
+
+void tst_data_files::checksumIsThatOfTheStandard() {
+    QByteArray bytes;
+    for (int length = 0; length < 200; ++length, bytes += char(length * 37))
+        QCOMPARE(Sha256::hex(bytes), QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
 }
 
 void tst_data_files::damagedFileIsRefusedWithItsPath_data() {
@@ -185,7 +246,7 @@ void tst_data_files::damagedFileIsRefusedWithItsPath() {
     }
 }
 
-void tst_data_files::everyFlippedByteIsNoticed() {
+void tst_data_files::everyFlippedByteAndTruncationIsNoticed() {
     const QByteArray sound = textOf(DataDocument(*mDictionary));
     const qsizetype step = qEnvironmentVariableIsSet("KX_FULL") ? 1 : sound.size() / 100;
     for (qsizetype at = 0; at < sound.size(); at += step) {
@@ -193,10 +254,6 @@ void tst_data_files::everyFlippedByteIsNoticed() {
         text[at] = char(text[at] ^ 0x04);
         QVERIFY_THROWS_EXCEPTION(FileProblem, (void)read(text));
     }
-}
-
-void tst_data_files::everyTruncationIsNoticed() {
-    const QByteArray sound = textOf(DataDocument(*mDictionary));
     for (qsizetype length = 0; length < sound.size(); length += sound.size() / 60)
         QVERIFY_THROWS_EXCEPTION(FileProblem, (void)read(sound.first(length)));
 }

@@ -38,8 +38,6 @@ class RadioLinkTest : public QObject {
 
   private Q_SLOTS:
     void interrogationTellsWhoTheRadioIs();
-    void readGivesTheActiveBank_data();
-    void readGivesTheActiveBank();
     void programmedContentIsVerifiedAndTheOldOneKept();
     void mismatchTouchesNothing_data();
     void mismatchTouchesNothing();
@@ -70,25 +68,6 @@ void RadioLinkTest::interrogationTellsWhoTheRadioIs() {
     QCOMPARE(*report.checksum, Checksums::crc32(sim.activeBank()));
     QCOMPARE(bench.progress.phases, QStringList{QStringLiteral("Radio Interrogation 0")});
     QCOMPARE(bench.tap.highestSpeed, 115200);
-}
-
-void RadioLinkTest::readGivesTheActiveBank_data() {
-    QTest::addColumn<QByteArray>("tier");
-    for (const char *tier : {"Basic", "Standard", "Advanced"})
-        QTest::newRow(tier) << QByteArray(tier);
-}
-
-void RadioLinkTest::readGivesTheActiveBank() {
-    QFETCH(QByteArray, tier);
-    SimProcess sim;
-    QVERIFY(sim.start(radio(sim, tier.constData())));
-    LinkBench bench;
-    const RadioReport report = bench.link.read(sim.link());
-    QCOMPARE(report.fault, LinkFault::None);
-    QCOMPARE(report.image, sim.activeBank());
-    QCOMPARE(bench.progress.phases.size(), 2);
-    QCOMPARE(bench.progress.moved.back(), report.image.size());
-    QCOMPARE(bench.progress.lastPercentage, QStringLiteral("100 %"));
 }
 
 void RadioLinkTest::programmedContentIsVerifiedAndTheOldOneKept() {
@@ -211,7 +190,11 @@ void RadioLinkTest::eventsRunBetweenTwoBlocks() {
     });
     timer.start(0);
     bench.progress.onAdvance = [&](int count) { advances = count; };
-    QCOMPARE(bench.link.read(sim.link()).fault, LinkFault::None);
+    const RadioReport report = bench.link.read(sim.link());
+    QCOMPARE(report.fault, LinkFault::None);
+    QCOMPARE(report.image, sim.activeBank());
+    QCOMPARE(bench.progress.moved.back(), report.image.size());
+    QCOMPARE(bench.progress.lastPercentage, QStringLiteral("100 %"));
     QVERIFY2(advances > 1 && turns >= advances, qPrintable(QStringLiteral("%1 of %2").arg(turns).arg(advances)));
 }
 

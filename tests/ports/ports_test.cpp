@@ -96,22 +96,12 @@ void PortsTest::replacementListTakesOnlyWholeParts_data() {
     QTest::addColumn<QString>("bars");
     QTest::addColumn<QString>("firstDevice");
     QTest::addColumn<QString>("firstName");
-    QTest::newRow("named") << "1=/x/radio=Simulated radio"
-                           << "|1:|"
-                           << "/x/radio"
-                           << "Simulated radio";
-    QTest::newRow("name with =") << "7=/x=a=b"
-                                 << "|7:|"
-                                 << "/x"
-                                 << "a=b";
-    QTest::newRow("sorted by number, not by place") << "12=/b|2=/a"
-                                                    << "|2:|12:|"
-                                                    << "/a"
-                                                    << "";
-    QTest::newRow("faulty parts passed over") << "0=/z|x=/y|3|4=|5=/ok"
-                                              << "|5:|"
-                                              << "/ok"
-                                              << "";
+    const auto row = [](const char *name, const char *first, const char *second, const char *third,
+                        const char *fourth) { QTest::newRow(name) << first << second << third << fourth; };
+    row("named", "1=/x/radio=Simulated radio", "|1:|", "/x/radio", "Simulated radio");
+    row("name with =", "7=/x=a=b", "|7:|", "/x", "a=b");
+    row("sorted by number, not by place", "12=/b|2=/a", "|2:|12:|", "/a", "");
+    row("faulty parts passed over", "0=/z|x=/y|3|4=|5=/ok", "|5:|", "/ok", "");
 }
 
 void PortsTest::replacementListTakesOnlyWholeParts() {
@@ -127,28 +117,20 @@ void PortsTest::replacementListTakesOnlyWholeParts() {
 void PortsTest::portTextsFindTheirDevice_data() {
     QTest::addColumn<QString>("text");
     QTest::addColumn<QString>("device"); // "" : refused
-    QTest::newRow("number") << "1"
-                            << "/dev/ttyS0";
-    QTest::newRow("COM name, any case") << "com102"
-                                        << "/dev/ttyUSB1";
-    QTest::newRow("with colon") << "COM201:"
-                                << "/dev/ttyACM0";
-    QTest::newRow("last ttyS number") << "COM100"
-                                      << "/dev/ttyS99";
-    QTest::newRow("path") << "/dev/ttyS7"
-                          << "/dev/ttyS7";
-    QTest::newRow("relative path") << "./radio"
-                                   << "./radio";
-    QTest::newRow("zero") << "COM0"
-                          << "";
-    QTest::newRow("empty") << ""
-                           << "";
-    QTest::newRow("word") << "COMX"
-                          << "";
-    QTest::newRow("sign") << "COM-1"
-                          << "";
-    QTest::newRow("overflow") << "COM99999999999"
-                              << "";
+    const auto row = [](const char *name, const char *first, const char *second) {
+        QTest::newRow(name) << first << second;
+    };
+    row("number", "1", "/dev/ttyS0");
+    row("COM name, any case", "com102", "/dev/ttyUSB1");
+    row("with colon", "COM201:", "/dev/ttyACM0");
+    row("last ttyS number", "COM100", "/dev/ttyS99");
+    row("path", "/dev/ttyS7", "/dev/ttyS7");
+    row("relative path", "./radio", "./radio");
+    row("zero", "COM0", "");
+    row("empty", "", "");
+    row("word", "COMX", "");
+    row("sign", "COM-1", "");
+    row("overflow", "COM99999999999", "");
 }
 
 void PortsTest::portTextsFindTheirDevice() {

@@ -15,7 +15,6 @@ class ValueValidatorTest : public QObject {
     void aValueIsTakenOrRefusedInWords();
     void limitsFollowTheBand();
     void anIdentityOffersItsOwnAndFreeNumbersOnly();
-    void aListItemOfAnotherVersionIsNotOffered();
     void aRefusedRecordOperationSaysWhy();
 };
 
@@ -79,16 +78,6 @@ void ValueValidatorTest::anIdentityOffersItsOwnAndFreeNumbersOnly() {
     for (const FieldItem &item : ItemLists(f.data).items(f.field("ChannelID"), {0, 2}))
         texts.append(item.text);
     QCOMPARE(texts.join(QLatin1Char(' ')), QStringLiteral("2 3 4 5 6 7 8 9"));
-}
-
-void ValueValidatorTest::aListItemOfAnotherVersionIsNotOffered() {
-    ModelFixture f;
-    const FieldIndex power = f.field("Power");
-    QCOMPARE(ItemLists(f.data).items(power, {0, 1}).size(), std::size_t(3));
-    f.data.setVersionLevel(1);
-    QCOMPARE(ItemLists(f.data).items(power, {0, 1}).size(), std::size_t(2));
-    QVERIFY(std::holds_alternative<ValueFault>(ValueValidator(f.data).fromBoundary(power, {0, 1}, 2)));
-    QVERIFY(std::holds_alternative<StoredValue>(ValueValidator(f.data).fromBoundary(power, {0, 1}, 1)));
 }
 
 void ValueValidatorTest::aRefusedRecordOperationSaysWhy() {

@@ -1,4 +1,4 @@
-#include "radio_identity.h"
+#include "sample_identity.h"
 #include "wire_frame.h"
 #include "wire_messages.h"
 
@@ -9,23 +9,6 @@ using namespace Wire;
 
 namespace {
 constexpr quint32 kCheckCrc = 0xCBF43926; // CRC-32 of "123456789"
-
-QByteArray identityRecord() {
-    const RadioIdentity identity{.tier = 2,
-                                 .band = 1,
-                                 .databaseLevel = 2,
-                                 .layout = 1,
-                                 .maxBlock = 4096,
-                                 .serialNumber = 46000001,
-                                 .imageSize = 137872,
-                                 .highSpeed = true,
-                                 .hardwareRevision = 3,
-                                 .softwareMajor = 2,
-                                 .softwareMinor = 1,
-                                 .softwareRevision = 7,
-                                 .productCode = QStringLiteral("KX4600-A1")};
-    return identity.encode();
-}
 } // namespace
 
 // The worked examples of docs/radio-protocol.md: the bytes here, those in the document and what the code sends are one.
@@ -63,7 +46,7 @@ void ProtocolExamplesTest::documentAndCodeAgree_data() {
     row("identity",
         "A5 5A 00 22 10 81 01 02 01 02 00 01 10 00 02 BD E7 81 00 02 1A 90 01 03 02 01 00 07 4B 58 34 36 30 30 2D 41 "
         "31 00 00 00 F6 73",
-        say(16, Command::Identify, identityRecord()));
+        say(16, Command::Identify, sampleIdentity().encode()));
     row("open", "A5 5A 00 01 11 02 01 65 A8", ask(17, Command::OpenSession, OpenSessionRequest{}.encode()));
     row("opened", "A5 5A 00 03 11 82 01 00 01 86 64", say(17, Command::OpenSession, SessionOpened{1, 1}.encode()));
     row("speed", "A5 5A 00 04 12 04 00 01 C2 00 AF 3C", ask(18, Command::SetSpeed, speed));

@@ -1,5 +1,5 @@
 #include "byte_fields.h"
-#include "radio_identity.h"
+#include "sample_identity.h"
 #include "wire_frame.h"
 #include "wire_messages.h"
 
@@ -8,19 +8,6 @@
 #include <functional>
 
 namespace {
-const RadioIdentity kIdentity{.tier = 2,
-                              .band = 3,
-                              .databaseLevel = 2,
-                              .layout = 1,
-                              .maxBlock = 4096,
-                              .serialNumber = 12345678,
-                              .imageSize = 65536,
-                              .highSpeed = true,
-                              .hardwareRevision = 4,
-                              .softwareMajor = 2,
-                              .softwareMinor = 1,
-                              .softwareRevision = 7,
-                              .productCode = QStringLiteral("KX4600-A3")};
 using Decodes = std::function<bool(const QByteArray &)>;
 template <class Message>
 Decodes decoder() {
@@ -42,18 +29,18 @@ class WireMessagesTest : public QObject {
 };
 
 void WireMessagesTest::identitySurvivesTheLine() {
-    const auto decoded = RadioIdentity::decode(kIdentity.encode());
+    const auto decoded = RadioIdentity::decode(sampleIdentity().encode());
     QVERIFY(decoded);
-    QVERIFY(*decoded == kIdentity);
-    QCOMPARE(kIdentity.softwareText(), QStringLiteral("2.01.0007"));
-    RadioIdentity small = kIdentity;
+    QVERIFY(*decoded == sampleIdentity());
+    QCOMPARE(sampleIdentity().softwareText(), QStringLiteral("2.01.0007"));
+    RadioIdentity small = sampleIdentity();
     small.serialNumber = 7;
     QCOMPARE(small.serialText(), QStringLiteral("00000007"));
 }
 
 void WireMessagesTest::identityOutOfRangeIsRefused_data() {
     QTest::addColumn<QByteArray>("record");
-    const QByteArray good = kIdentity.encode();
+    const QByteArray good = sampleIdentity().encode();
     const auto changed = [&good](int at, const QByteArray &bytes) {
         return QByteArray(good).replace(at, bytes.size(), bytes);
     };

@@ -4,7 +4,11 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
+const QString kNumber = QStringLiteral("%1");
+
 QString unescaped(QStringView text) {
     QString result;
     result.reserve(text.size());
@@ -50,5 +54,15 @@ void TranslationDictionary::LoadText(const QString &text) {
 
 QString TranslationDictionary::Translate(int language, const QString &text) const {
     const auto table = mTables.find(language);
-    return table == mTables.end() ? text : table->second.value(text, text);
+    if (table == mTables.end())
+        return text;
+    const auto row = table->second.constFind(text);
+    if (row != table->second.constEnd())
+        return *row;
+    const qsizetype number = text.lastIndexOf(u' ') + 1;
+    const bool isNumbered =
+        number > 0 && number < text.size() &&
+        std::all_of(text.cbegin() + number, text.cend(), [](QChar letter) { return letter.isDigit(); });
+    return isNumbered ? table->second.value(text.first(number) + kNumber, text).replace(kNumber, text.sliced(number))
+                      : text;
 }

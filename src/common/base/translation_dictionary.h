@@ -18,7 +18,8 @@ class Q_DECL_EXPORT TranslationDictionary {
     void LoadText(const QString &text);
 
     [[nodiscard]] bool IsOpen() const { return mOpen; }
-    // The translation into language (2 and up), or text itself where there is none.
+    // The translation into language (2 and up), or text itself where there is none. A name with a number behind it
+    // ("Channel 12") may have the one row "Channel %1" for all numbers.
     [[nodiscard]] QString Translate(int language, const QString &text) const;
 
   private:

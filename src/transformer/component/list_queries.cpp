@@ -5,6 +5,9 @@
 #include <algorithm>
 
 namespace {
+// A form fills its lists before its navigator has told them their record.
+constexpr qint32 kShownRecord = 0;
+
 // ID trackers get the text as ID too: what is shown and what is handed back are the same.
 void fill(const std::vector<FieldItem> &items, bool withIds, XArrayDB &array) {
     array.Clear();
@@ -18,12 +21,9 @@ void fill(const std::vector<FieldItem> &items, bool withIds, XArrayDB &array) {
 } // namespace
 
 std::vector<FieldItem> ListQueries::itemsOf(const FieldDefinition &field, qint32 recordNr) {
-    return ItemLists(mState.current()).items(field.index, mState.address(field.structure, recordNr));
-}
-
-std::vector<FieldItem> ListQueries::shownItems(const FieldDefinition &field) {
-    const qint32 position = mState.positions().position(field.structure);
-    return itemsOf(field, std::max(position, 1));
+    const qint32 shown = std::max(mState.positions().position(field.structure), 1);
+    const RecordAddress record = mState.address(field.structure, recordNr == kShownRecord ? shown : recordNr);
+    return ItemLists(mState.current()).items(field.index, record);
 }
 
 QString ListQueries::GetIsComboIndex(const QString &uiid) {
@@ -32,7 +32,7 @@ QString ListQueries::GetIsComboIndex(const QString &uiid) {
         return {};
     QStringList values;
     bool placesServe = true;
-    for (const FieldItem &item : shownItems(*field)) {
+    for (const FieldItem &item : itemsOf(*field, kShownRecord)) {
         placesServe = placesServe && item.value == qint32(values.size());
         values.append(QString::number(item.value));
     }
@@ -44,7 +44,7 @@ QString ListQueries::GetGridCellRaw(const QString &uiid) {
     if (field == nullptr || field->kind != FieldKind::List)
         return {};
     QStringList texts;
-    for (const FieldItem &item : shownItems(*field))
+    for (const FieldItem &item : itemsOf(*field, kShownRecord))
         texts.append(item.text);
     return texts.join(u'|');
 }
@@ -54,8 +54,7 @@ bool ListQueries::GetComboItems(const QString &uiid, qint32 recordNr, XArrayDB &
     const FieldDefinition *field = mState.findField(uiid);
     if (field == nullptr || (field->kind != FieldKind::List && !field->hasIdItems()))
         return false;
-    // A form fills its lists before its navigator has told them their record.
-    fill(recordNr == 0 ? shownItems(*field) : itemsOf(*field, recordNr), field->hasIdItems(), array);
+    fill(itemsOf(*field, recordNr), field->hasIdItems(), array);
     scope = ItemLists(mState.current()).differsByRecord(field->index) ? kByRecord : 0;
     return true;
 }

@@ -18,8 +18,6 @@ class ListQueries {
     void GetGridData(const QString &uiidList, XArrayDB &array, qint32 recordNr, bool &ok);
 
   private:
-    // Of the record that is shown at present: a list without a record number means that one.
-    [[nodiscard]] std::vector<FieldItem> shownItems(const FieldDefinition &field);
     [[nodiscard]] std::vector<FieldItem> itemsOf(const FieldDefinition &field, qint32 recordNr);
 
     ComponentState &mState;

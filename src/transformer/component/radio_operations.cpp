@@ -15,6 +15,7 @@
 #include "value_text.h"
 #include "wire_trace.h"
 
+#include <QCoreApplication>
 #include <QTime>
 
 namespace {
@@ -265,6 +266,7 @@ QString RadioOperations::storeRestorePoint(const RadioIdentity &identity, const 
     DataDocument document(mState.dictionary);
     document.data.setCurrentTier(data->tier());
     document.data.replace(std::move(*data));
+    QCoreApplication::processEvents(); // decoding and writing are a repaint apart
     try {
         const DataFileWriter writer(document);
         (void)RestorePoints(mState.places.restoreFolder)

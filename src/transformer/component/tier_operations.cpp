@@ -1,10 +1,10 @@
 #include "tier_operations.h"
 
 #include "field_defaults.h"
-#include "field_reader.h"
 #include "run_time_error.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 const QString kChildPrefix = QStringLiteral("->");
@@ -22,9 +22,9 @@ bool anyNetworkSignals(const TierData &data) {
     const FieldDefinition *type = data.dictionary().find(QStringLiteral("SignallingType"));
     if (type == nullptr)
         return false;
-    const FieldReader reader(data);
     return std::ranges::any_of(data.records(type->structure), [&](RecordAddress record) {
-        return kToneSignalling.contains(reader.shown(type->index, record));
+        const ListItem *item = type->itemByValue(data.number(*type, record));
+        return item != nullptr && kToneSignalling.contains(item->text);
     });
 }
 } // namespace
@@ -50,10 +50,13 @@ void TierOperations::raiseChangeToTier() {
     const FormTreeLists tree = lists();
     const QString key = mState.dictionary.tier(mState.tier()).key;
     bool shown = false;
+    mTold.reset();
     mState.events.raise([&](TransformerEvents &listener) {
         listener.TransformerEvents_ChangeToTier(key, tree.forms, tree.captions, tree.accessLevels, tree.networks,
                                                 tree.types, shown);
     });
+    if (!mTold) // nobody who built a tree has asked
+        RefreshFormList();
 }
 
 FormTreeLists TierOperations::lists() const {
@@ -81,31 +84,37 @@ bool TierOperations::GetTreeNodeHasData(const QString &nodeKey) const {
     return FieldDefaults(mState.current()).formDiffers(nodeKey);
 }
 
-bool TierOperations::isFormEnabled(const QString &form) const {
-    if (kToneForms.contains(form))
-        return anyNetworkSignals(mState.current());
+bool TierOperations::Availability::of(const QString &form) const {
+    return kToneForms.contains(form) ? toneForms : selcallForms || !kSelcallForms.contains(form);
+}
+
+TierOperations::Availability TierOperations::availability() const {
     const std::optional<StructureIndex> systems = mState.dictionary.structureByName(QStringLiteral("SelcallSystem"));
-    return !kSelcallForms.contains(form) || (systems && mState.current().recordCount(*systems) > 0);
+    return {.toneForms = anyNetworkSignals(mState.current()),
+            .selcallForms = systems && mState.current().recordCount(*systems) > 0};
 }
 
 void TierOperations::RefreshFormList() {
-    mToldEnabled.clear();
+    const Availability now = availability();
+    mTold = now;
     for (const TreeEntry &entry : mState.dictionary.tree(mState.tier()))
-        tellForm(entry);
+        tellForm(entry, now);
 }
 
 void TierOperations::tellChangedForms() {
+    const Availability now = availability();
+    const Availability before = std::exchange(mTold, now).value_or(now);
+    if (now == before)
+        return;
     for (const TreeEntry &entry : mState.dictionary.tree(mState.tier())) {
-        const auto told = mToldEnabled.constFind(entry.form);
-        if (told != mToldEnabled.constEnd() && *told != isFormEnabled(entry.form))
-            tellForm(entry);
+        if (now.of(entry.form) != before.of(entry.form))
+            tellForm(entry, now);
     }
 }
 
-void TierOperations::tellForm(const TreeEntry &entry) {
-    const bool enable = isFormEnabled(entry.form);
-    mToldEnabled.insert(entry.form, enable);
+void TierOperations::tellForm(const TreeEntry &entry, const Availability &availability) {
     const QString name = QString(entry.caption).remove(u'&');
+    const bool enable = availability.of(entry.form);
     mState.events.raise(
         [&](TransformerEvents &listener) { listener.TransformerEvents_EnableDisableFormItem(name, enable); });
 }

@@ -7,6 +7,7 @@
 #include <QVariant>
 
 #include <map>
+#include <optional>
 
 // The lists of the form tree, as TransformerEvents_ChangeToTier carries them.
 struct FormTreeLists {
@@ -24,12 +25,12 @@ class TierOperations {
 
     [[nodiscard]] QString InitialiseDatabase() const;
     void ChangeTier(const QString &tierKey);
-    // Raises the event for the current tier.
+    // Raises the event for the current tier, and tells which forms are available unless a listener asks itself.
     void raiseChangeToTier();
     [[nodiscard]] FormTreeLists lists() const;
     [[nodiscard]] bool GetTreeNodeHasData(const QString &nodeKey) const;
     void RefreshFormList();
-    // After an edit: raises the event only for forms that have become available or unavailable by it.
+    // After anything that changes values: raises the event only for forms that have become available or unavailable.
     void tellChangedForms();
     [[nodiscard]] bool GetFormAvailable(const QString &formKey) const;
 
@@ -45,10 +46,17 @@ class TierOperations {
         qint32 node = 0;
     };
     [[nodiscard]] qint32 lowestAccess(const TreeEntry &entry) const;
-    [[nodiscard]] bool isFormEnabled(const QString &form) const;
-    void tellForm(const TreeEntry &entry);
+    // What decides which forms of the tree are available.
+    struct Availability {
+        bool toneForms = false;    // a network has tone signalling
+        bool selcallForms = false; // there is a selcall system
+        bool operator==(const Availability &) const = default;
+        [[nodiscard]] bool of(const QString &form) const;
+    };
+    [[nodiscard]] Availability availability() const;
+    void tellForm(const TreeEntry &entry, const Availability &availability);
 
     ComponentState &mState;
     std::map<TierIndex, CurrentForm> mForms;
-    QHash<QString, bool> mToldEnabled; // of the forms of the tree that was last refreshed
+    std::optional<Availability> mTold; // nothing since the tree was last exchanged
 };

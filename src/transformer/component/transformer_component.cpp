@@ -144,11 +144,15 @@ void TransformerComponent::EndBatchUpdate() {
 bool TransformerComponent::ImportRecordByPaste(const QString & /*GridID*/, const QString &UIIDList,
                                                QWidget * /*MainWindow*/, const QString & /*Reserved*/,
                                                const QString &SelectedRecordsList) {
-    return mClipboard && mImports->import(UIIDList, mClipboard(), SelectedRecordsList);
+    const bool done = mClipboard && mImports->import(UIIDList, mClipboard(), SelectedRecordsList);
+    mTiers->tellChangedForms();
+    return done;
 }
 bool TransformerComponent::ImportRecordByDrop(const QString & /*GridID*/, const QString &UIIDList,
                                               const QMimeData *Data, QWidget * /*MainWindow*/, bool /*Always*/) {
-    return Data != nullptr && mImports->import(UIIDList, Data->text(), QString());
+    const bool done = Data != nullptr && mImports->import(UIIDList, Data->text(), QString());
+    mTiers->tellChangedForms();
+    return done;
 }
 
 // Forms
@@ -199,6 +203,7 @@ void TransformerComponent::GetTreeFilterTabs(QStringList &TabNames, QHash<QStrin
 // Documents
 qint32 TransformerComponent::ResetDatabase() {
     mDocuments->ResetDatabase();
+    mTiers->tellChangedForms();
     return 0;
 }
 void TransformerComponent::GetFileDetails(const QString &FileName, QString &RadioModel, QString &DatabaseVersion,
@@ -222,7 +227,10 @@ void TransformerComponent::ReadFile(const QString &FileName, qint32 /*FileFormat
 void TransformerComponent::SaveFile(const QString &FileName, const QString &FileComment, qint32 Version, bool &Result) {
     mDocuments->SaveFile(FileName, FileComment, Version, Result);
 }
-void TransformerComponent::ReloadDefaults(const QString &TierKey) { mDocuments->ReloadDefaults(TierKey); }
+void TransformerComponent::ReloadDefaults(const QString &TierKey) {
+    mDocuments->ReloadDefaults(TierKey);
+    mTiers->tellChangedForms();
+}
 QString TransformerComponent::GetFileName() { return mState->fileName; }
 bool TransformerComponent::GetDataIsDirty() { return mState->journal.isDirty(); }
 bool TransformerComponent::GetNewAllowed() { return true; }

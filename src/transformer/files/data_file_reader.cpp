@@ -2,10 +2,11 @@
 
 #include "file_kind.h"
 #include "file_problem.h"
+#include "json_text.h"
 #include "sealed_text.h"
 #include "tier_json_reader.h"
+#include "translation.h"
 
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QVersionNumber>
@@ -18,8 +19,8 @@ const QStringList kHeaderKeys = {QStringLiteral("formatVersion"),      QStringLi
                                  QStringLiteral("radioModel"),         QStringLiteral("databaseVersion"),
                                  QStringLiteral("applicationVersion"), QStringLiteral("date"),
                                  QStringLiteral("networks"),           QStringLiteral("comment")};
-const QStringList kTopKeys = {QStringLiteral("format"), QStringLiteral("header"), QStringLiteral("tiers"),
-                              QStringLiteral("sha256")};
+constexpr QByteArrayView kTiersKey = "tiers";
+const QStringList kOtherTopKeys = {QStringLiteral("format"), QStringLiteral("header"), QStringLiteral("sha256")};
 
 QJsonObject without(QJsonObject object, const QStringList &keys) {
     for (const QString &key : keys)
@@ -93,34 +94,45 @@ DataDocument DataFileReader::readJustSealed(const QByteArray &text) const {
 
 DataDocument DataFileReader::parse(const QByteArray &text, const QJsonObject &headerJson,
                                    const QString &currentTier) const {
-    QJsonParseError error{};
-    const QJsonObject top = QJsonDocument::fromJson(text, &error).object();
-    if (error.error != QJsonParseError::NoError)
-        damaged(QStringLiteral("its text is broken at byte %1").arg(error.offset));
-    const std::optional<TierIndex> current = mDictionary.tierByKey(currentTier);
-    const QJsonObject tiers = top.value(QStringLiteral("tiers")).toObject();
-    if (!current || !tiers.contains(currentTier))
-        damaged(QStringLiteral("the values of its radio model are missing"));
-
+    if (const std::optional<qsizetype> fault = JsonText::fault(text))
+        damaged(Translation::Piece(QStringLiteral("its text is broken at byte %0:S"), {QString::number(*fault)}));
+    if (!text.isValidUtf8())
+        damaged(QStringLiteral("its text is not UTF-8"));
     DataDocument document(mDictionary);
-    document.data.setCurrentTier(*current);
     document.unknown.header = without(headerJson, kHeaderKeys);
-    document.unknown.top = without(top, kTopKeys);
-    for (auto entry = tiers.constBegin(); entry != tiers.constEnd(); ++entry) {
-        const std::optional<TierIndex> tier = mDictionary.tierByKey(entry.key());
+    QByteArrayView tiers;
+    JsonParts parts(text);
+    while (const std::optional<JsonParts::Part> part = parts.next()) {
+        if (part->key == kTiersKey)
+            tiers = part->value;
+        else if (!kOtherTopKeys.contains(part->name()))
+            document.unknown.top.insert(part->name(), JsonText::tree(part->value));
+    }
+    const std::optional<TierIndex> current = mDictionary.tierByKey(currentTier);
+    if (!current || !readTiers(tiers, document).contains(*current))
+        damaged(QStringLiteral("the values of its radio model are missing"));
+    document.data.setCurrentTier(*current);
+    return document;
+}
+
+std::set<TierIndex> DataFileReader::readTiers(QByteArrayView tiers, DataDocument &document) const {
+    std::set<TierIndex> read;
+    JsonParts parts(tiers);
+    while (const std::optional<JsonParts::Part> part = parts.next()) {
+        const std::optional<TierIndex> tier = mDictionary.tierByKey(part->name());
         if (!tier) {
-            document.unknown.tiers.insert(entry.key(), entry.value());
+            document.unknown.tiers.insert(part->name(), JsonText::tree(part->value));
             continue;
         }
-        const QJsonObject object = entry.value().toObject();
-        checkVersion(object.value(QStringLiteral("databaseVersion")).toString());
+        checkVersion(TierJsonReader::databaseVersion(part->value));
         try {
-            TierJsonReader(mDictionary, *tier).read(object, document);
+            TierJsonReader(mDictionary, *tier).read(part->value, document);
         } catch (const RunTimeError &fault) {
             damaged(fault.Description);
         }
+        read.insert(*tier);
     }
-    return document;
+    return read;
 }
 
 void DataFileReader::damaged(const QString &reason) const {

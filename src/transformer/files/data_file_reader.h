@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 
+#include <set>
+
 class QJsonObject;
 
 // Reads the text of a data file. Raises FileProblem, which names path and reason, for what is no sound data file of
@@ -24,6 +26,8 @@ class DataFileReader {
     [[nodiscard]] DataFileHeader checkedHeader(const QJsonObject &object) const;
     [[nodiscard]] DataDocument parse(const QByteArray &text, const QJsonObject &headerJson,
                                      const QString &currentTier) const;
+    // Which tiers the object holds; their values are in the document.
+    std::set<TierIndex> readTiers(QByteArrayView tiers, DataDocument &document) const;
     void checkVersion(const QString &databaseVersion) const;
     [[noreturn]] void damaged(const QString &reason) const;
 

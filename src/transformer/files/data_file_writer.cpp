@@ -70,7 +70,8 @@ QByteArray DataFileWriter::write(const DataFileHeader &header) const {
             appendTier(text, tier);
     }
     chopEnd(text, ",\n");
-    text = SealedText::seal(text + "\n},\n");
+    text += "\n},\n";
+    text = SealedText::seal(text);
 
     const DataDocument again = DataFileReader(mDictionary, QString()).readJustSealed(text);
     if (!DataDocuments::sameContent(again.data, mDocument.data))
@@ -128,7 +129,7 @@ void DataFileWriter::appendRecord(QByteArray &text, const TierData &tier, const 
     text += '{';
     for (const FieldIndex index : structure.stored) {
         text += mKeys[index.slot()];
-        RecordJson::appendValue(text, mDictionary.field(index), tier.value(index, record));
+        RecordJson::appendValue(text, mDictionary.field(index), tier, record);
         text += between;
     }
     text += entriesOf(mDocument.unknown.ofRecord(tier.tier(), structure.index, record), between);

@@ -1,25 +1,19 @@
 #include "sealed_text.h"
 
-#include <QCryptographicHash>
+#include "sha256.h"
 
 namespace {
 constexpr QByteArrayView kLineStart = "\"sha256\": \"";
 constexpr QByteArrayView kLineEnd = "\"}\n";
 constexpr qsizetype kHexDigits = 64;
 constexpr qsizetype kLineLength = kLineStart.size() + kHexDigits + kLineEnd.size();
-
-QByteArray hashOf(QByteArrayView bytes) {
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    hash.addData(QByteArray::fromRawData(bytes.data(), bytes.size()));
-    return hash.result().toHex();
-}
 } // namespace
 
 namespace SealedText {
 QByteArray seal(const QByteArray &open) {
     QByteArray text = open;
     text += kLineStart;
-    text += hashOf(open);
+    text += Sha256::hex(open);
     text += kLineEnd;
     return text;
 }
@@ -34,6 +28,6 @@ std::optional<QByteArray> statedHash(const QByteArray &text) {
 
 bool isIntact(const QByteArray &text) {
     const std::optional<QByteArray> stated = statedHash(text);
-    return stated && *stated == hashOf(QByteArrayView(text).chopped(kLineLength));
+    return stated && *stated == Sha256::hex(QByteArrayView(text).chopped(kLineLength));
 }
 } // namespace SealedText

@@ -1,8 +1,10 @@
 #include "tier_json_reader.h"
 
 #include "field_defaults.h"
+#include "json_text.h"
 #include "record_json.h"
 #include "run_time_error.h"
+#include "translation.h"
 #include "value_codec.h"
 
 #include <QSet>
@@ -10,8 +12,16 @@
 #include <algorithm>
 
 namespace {
-[[noreturn]] void wrong(const QString &reason) {
-    throw RunTimeError(ErrorNumber::kBadArgument, QStringLiteral("TierJsonReader"), reason);
+constexpr QByteArrayView kVersionKey = "databaseVersion";
+
+[[noreturn]] void wrong(const QString &reason, const QStringList &parameters = {}) {
+    throw RunTimeError(ErrorNumber::kBadArgument, QStringLiteral("TierJsonReader"),
+                       Translation::Piece(reason, parameters));
+}
+
+[[noreturn]] void wrongValue(const RecordStructure &structure, RecordAddress record, const QString &uiid) {
+    wrong(QStringLiteral("record %0:S of %1:S has a bad value of %2:S"),
+          {QString::number(record.number), structure.name, uiid});
 }
 
 // The widest limits that the field can ever have: data whose band was changed last may hold values outside the present
@@ -27,115 +37,132 @@ NumberLimits widestLimits(const FieldDefinition &field) {
     return limits;
 }
 
-QJsonArray arrayOf(const QJsonObject &json, const QString &name) {
-    const QJsonValue value = json.value(name);
-    if (!value.isArray())
-        wrong(QStringLiteral("the records of %1 are missing").arg(name));
-    return value.toArray();
+std::vector<QByteArrayView> elementsOf(QByteArrayView array) {
+    std::vector<QByteArrayView> elements;
+    JsonParts parts(array);
+    while (const std::optional<JsonParts::Part> part = parts.next())
+        elements.push_back(part->value);
+    return elements;
+}
+
+std::vector<QByteArrayView> recordsOf(const std::map<QString, QByteArrayView> &tables, const QString &name) {
+    const auto found = tables.find(name);
+    if (found == tables.end() || !JsonText::isArray(found->second))
+        wrong(QStringLiteral("the records of %0:S are missing"), {name});
+    return elementsOf(found->second);
 }
 } // namespace
 
 TierJsonReader::TierJsonReader(const Dictionary &dictionary, TierIndex tier) : mDictionary(dictionary), mTier(tier) {}
 
-void TierJsonReader::read(const QJsonObject &json, DataDocument &document) const {
+QString TierJsonReader::databaseVersion(QByteArrayView json) {
+    JsonParts parts(json);
+    while (const std::optional<JsonParts::Part> part = parts.next()) {
+        if (part->key == kVersionKey)
+            return JsonText::string(part->value).value_or(QString());
+    }
+    return {};
+}
+
+void TierJsonReader::read(QByteArrayView json, DataDocument &document) const {
     TierData data(mDictionary, mTier);
-    const QString version = json.value(QStringLiteral("databaseVersion")).toString();
-    data.setVersionLevel(mDictionary.versionLevelByName(version).value_or(mDictionary.newestLevel()));
-    QJsonObject rest = json;
-    rest.remove(QStringLiteral("databaseVersion"));
+    data.setVersionLevel(mDictionary.versionLevelByName(databaseVersion(json)).value_or(mDictionary.newestLevel()));
+    QJsonObject rest;
+    Tables tables;
+    JsonParts parts(json);
+    while (const std::optional<JsonParts::Part> part = parts.next()) {
+        const QString name = part->name();
+        if (mDictionary.structureByName(name))
+            tables[name] = part->value;
+        else if (part->key != kVersionKey)
+            rest.insert(name, JsonText::tree(part->value));
+    }
     for (const RecordStructure &structure : mDictionary.structures()) {
         if (structure.isRadio())
-            readRadio(json, data, document.unknown);
+            readRadio(tables, data, document.unknown);
         else if (!structure.parent.isValid() && structure.in(mTier).most > 0)
-            readTable(structure, json, data, document.unknown);
-        rest.remove(structure.name);
+            readTable(structure, tables, data, document.unknown);
     }
     checkValues(data);
     document.unknown.setTier(mTier, rest);
     document.data.replace(std::move(data));
 }
 
-void TierJsonReader::readRadio(const QJsonObject &json, TierData &data, UnknownFields &unknown) const {
+void TierJsonReader::readRadio(const Tables &tables, TierData &data, UnknownFields &unknown) const {
     const RecordStructure &radio = mDictionary.structure(mDictionary.radio());
-    const QJsonArray records = arrayOf(json, radio.name);
+    const Values records = recordsOf(tables, radio.name);
     if (records.size() != 1)
         wrong(QStringLiteral("the radio's own values are missing"));
     RecordRow present;
     for (const FieldIndex field : radio.stored)
         present.push_back(data.value(field, {}));
-    const RecordRow row = readRow(radio, records.first(), {}, present, unknown);
+    const RecordRow row = readRow(radio, records.front(), {}, present, unknown);
     for (std::size_t i = 0; i < row.size(); ++i)
         data.setValue(radio.stored[i], {}, row[i]);
 }
 
-void TierJsonReader::readTable(const RecordStructure &structure, const QJsonObject &json, TierData &data,
+void TierJsonReader::readTable(const RecordStructure &structure, const Tables &tables, TierData &data,
                                UnknownFields &unknown) const {
-    const QJsonArray records = arrayOf(json, structure.name);
+    const Values records = recordsOf(tables, structure.name);
     checkCount(structure, records.size());
     const RecordImage fresh = FieldDefaults(data).newRecord(structure.index, 0);
     while (data.recordCount(structure.index) > 0)
         data.removeRecord(structure.index, {0, data.recordCount(structure.index)});
+    std::vector<std::vector<Values>> children;
+    for (const StructureIndex child : structure.children)
+        children.push_back(childRows(mDictionary.structure(child), tables, records.size()));
     for (qint32 number = 1; number <= qint32(records.size()); ++number) {
         RecordImage image = fresh;
-        image.row = readRow(structure, records[number - 1], {0, number}, fresh.row, unknown);
+        image.row = readRow(structure, records[std::size_t(number - 1)], {0, number}, fresh.row, unknown);
         for (std::size_t i = 0; i < structure.children.size(); ++i) {
             const RecordStructure &child = mDictionary.structure(structure.children[i]);
-            const QJsonArray rows = childRows(child, json, number, qint32(records.size()));
             const RecordRow freshRow = FieldDefaults(data).newRecord(child.index, number).row;
+            RecordAddress address{child.isFlat() ? 0 : number, child.isFlat() ? (number - 1) * child.perParent : 0};
             image.children[i].clear();
-            for (qint32 row = 1; row <= qint32(rows.size()); ++row) {
-                const RecordAddress address = child.isFlat() ? RecordAddress{0, (number - 1) * child.perParent + row}
-                                                             : RecordAddress{number, row};
-                image.children[i].push_back(readRow(child, rows[row - 1], address, freshRow, unknown));
+            for (const QByteArrayView row : children[i][std::size_t(number - 1)]) {
+                ++address.number;
+                image.children[i].push_back(readRow(child, row, address, freshRow, unknown));
             }
         }
         data.insertRecord(structure.index, {0, number}, image);
     }
 }
 
-QJsonArray TierJsonReader::childRows(const RecordStructure &child, const QJsonObject &json, qint32 parent,
-                                     qint32 parents) const {
-    const QJsonArray all = arrayOf(json, child.name);
-    if (all.size() != qsizetype(parents) * (child.isFlat() ? child.perParent : 1))
-        wrong(QStringLiteral("the number of records of %1 does not fit").arg(child.name));
-    if (!child.isFlat()) {
-        QJsonArray rows = all[parent - 1].toArray();
-        checkCount(child, rows.size());
-        return rows;
+std::vector<TierJsonReader::Values> TierJsonReader::childRows(const RecordStructure &child, const Tables &tables,
+                                                              std::size_t parents) const {
+    const Values all = recordsOf(tables, child.name);
+    const auto each = std::ptrdiff_t(child.isFlat() ? child.perParent : 1);
+    if (all.size() != parents * std::size_t(each))
+        wrong(QStringLiteral("the number of records of %0:S does not fit"), {child.name});
+    std::vector<Values> rows;
+    for (auto first = all.begin(); first != all.end(); first += each) {
+        rows.push_back(child.isFlat() ? Values(first, first + each) : elementsOf(*first));
+        if (!child.isFlat())
+            checkCount(child, rows.back().size());
     }
-    QJsonArray rows;
-    for (qint32 i = 0; i < child.perParent; ++i)
-        rows.append(all[(parent - 1) * child.perParent + i]);
     return rows;
 }
 
-RecordRow TierJsonReader::readRow(const RecordStructure &structure, const QJsonValue &json, RecordAddress record,
+RecordRow TierJsonReader::readRow(const RecordStructure &structure, QByteArrayView json, RecordAddress record,
                                   const RecordRow &fallback, UnknownFields &unknown) const {
-    if (!json.isObject())
-        wrong(QStringLiteral("record %1 of %2 is missing").arg(record.number).arg(structure.name));
-    const QJsonObject object = json.toObject();
+    if (!JsonText::isObject(json))
+        wrong(QStringLiteral("record %0:S of %1:S is missing"), {QString::number(record.number), structure.name});
     try {
-        const RecordJson::ParsedRow parsed = RecordJson::parse(mDictionary, structure, object, fallback);
-        if (parsed.known < object.size())
-            unknown.setRecord(mTier, structure.index, record, RecordJson::unknownOf(mDictionary, structure, object));
+        const RecordJson::ParsedRow parsed = RecordJson::parse(mDictionary, structure, json, fallback);
+        unknown.setRecord(mTier, structure.index, record, parsed.unknown);
         return parsed.row;
     } catch (const RunTimeError &fault) {
-        wrong(QStringLiteral("record %1 of %2 has a bad value of %3")
-                  .arg(record.number)
-                  .arg(structure.name, fault.Description));
+        wrongValue(structure, record, fault.Description);
     }
 }
 
-void TierJsonReader::checkCount(const RecordStructure &structure, qsizetype count) const {
+void TierJsonReader::checkCount(const RecordStructure &structure, std::size_t count) const {
     const RecordCapacity &capacity = structure.in(mTier);
     const qint32 least = structure.fixed ? capacity.fresh : capacity.least;
     const qint32 most = structure.fixed ? capacity.fresh : capacity.most;
-    if (count < least || count > most)
-        wrong(QStringLiteral("it has %1 records of %2, and %3 to %4 are allowed")
-                  .arg(count)
-                  .arg(structure.name)
-                  .arg(least)
-                  .arg(most));
+    if (qint64(count) < least || qint64(count) > most)
+        wrong(QStringLiteral("it has %0:S records of %1:S, and %2:S to %3:S are allowed"),
+              {QString::number(count), structure.name, QString::number(least), QString::number(most)});
 }
 
 void TierJsonReader::checkValues(const TierData &data) const {
@@ -151,9 +178,7 @@ void TierJsonReader::checkValues(const TierData &data) const {
             };
             const auto bad = std::ranges::find_if(records, isBad);
             if (bad != records.end())
-                wrong(QStringLiteral("record %1 of %2 has a bad value of %3")
-                          .arg(bad->number)
-                          .arg(structure.name, field.id));
+                wrongValue(structure, *bad, field.id);
         }
         checkIdentities(data, structure);
     }
@@ -166,7 +191,8 @@ void TierJsonReader::checkIdentities(const TierData &data, const RecordStructure
     for (const RecordAddress record : data.records(structure.index)) {
         const std::pair<qint32, qint32> identity(record.parent, data.identityOf(structure.index, record));
         if (seen.contains(identity))
-            wrong(QStringLiteral("two records of %1 have the number %2").arg(structure.name).arg(identity.second));
+            wrong(QStringLiteral("two records of %0:S have the number %1:S"),
+                  {structure.name, QString::number(identity.second)});
         seen.insert(identity);
     }
 }

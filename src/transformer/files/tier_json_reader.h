@@ -2,8 +2,10 @@
 
 #include "data_document.h"
 
-#include <QJsonArray>
-#include <QJsonObject>
+#include <QByteArrayView>
+
+#include <map>
+#include <vector>
 
 // Decodes the values of one tier. Raises RunTimeError (5), whose description says what is wrong, for a record count, a
 // value or a reference that the tier cannot hold.
@@ -11,17 +13,23 @@ class TierJsonReader {
   public:
     TierJsonReader(const Dictionary &dictionary, TierIndex tier);
 
-    void read(const QJsonObject &json, DataDocument &document) const;
+    // json: an object of a sound text. "" where it names no version.
+    [[nodiscard]] static QString databaseVersion(QByteArrayView json);
+    void read(QByteArrayView json, DataDocument &document) const;
 
   private:
-    void readRadio(const QJsonObject &json, TierData &data, UnknownFields &unknown) const;
-    void readTable(const RecordStructure &structure, const QJsonObject &json, TierData &data,
+    using Values = std::vector<QByteArrayView>;
+    using Tables = std::map<QString, QByteArrayView>; // the arrays of the structures, by name
+
+    void readRadio(const Tables &tables, TierData &data, UnknownFields &unknown) const;
+    void readTable(const RecordStructure &structure, const Tables &tables, TierData &data,
                    UnknownFields &unknown) const;
-    [[nodiscard]] QJsonArray childRows(const RecordStructure &child, const QJsonObject &json, qint32 parent,
-                                       qint32 parents) const;
-    [[nodiscard]] RecordRow readRow(const RecordStructure &structure, const QJsonValue &json, RecordAddress record,
+    // The rows of every parent record.
+    [[nodiscard]] std::vector<Values> childRows(const RecordStructure &child, const Tables &tables,
+                                                std::size_t parents) const;
+    [[nodiscard]] RecordRow readRow(const RecordStructure &structure, QByteArrayView json, RecordAddress record,
                                     const RecordRow &fallback, UnknownFields &unknown) const;
-    void checkCount(const RecordStructure &structure, qsizetype count) const;
+    void checkCount(const RecordStructure &structure, std::size_t count) const;
     void checkValues(const TierData &data) const;
     void checkIdentities(const TierData &data, const RecordStructure &structure) const;
 
