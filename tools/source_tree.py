@@ -31,10 +31,11 @@ LAYERS = {
     "src/forms": ["src/forms/layout", "src/records", "src/binding"],
     "src/printing/pages": ["src/binding/contract"],
     "src/printing": ["src/printing/pages", "src/common"],
-    "src/mapping": ["src/common", "src/binding"],
+    "src/mapping/script": ["src/binding/contract"],
+    "src/mapping": ["src/mapping/script", "src/common", "src/binding"],
     "src/shell": ["src/forms", "src/printing", "src/mapping", "src/common/ports"],
     "src/app": ["src/shell"],
-    "src/ctl": ["src/transformer/component", "src/forms/definitions"],
+    "src/ctl": ["src/transformer/component", "src/forms/unseen", "src/printing/pages", "src/mapping/script"],
     "src/sim": ["src/transformer/wire", "src/transformer/dictionary"],
 }
 

@@ -11,6 +11,8 @@ int check(ToolSession &session);
 int diff(ToolSession &session);
 int squirt(ToolSession &session);
 int restorePoints(ToolSession &session);
+int report(ToolSession &session);
+int replay(ToolSession &session);
 // Values
 int get(ToolSession &session);
 int set(ToolSession &session);

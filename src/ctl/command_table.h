@@ -15,6 +15,7 @@ struct Command {
     int least;          // further arguments
     int most;
     int (*run)(ToolSession &session);
+    bool needsFonts = false;
 
     [[nodiscard]] QStringList valuedOptions() const;
     [[nodiscard]] QStringList flagOptions() const;

@@ -15,12 +15,6 @@
 #include <QJsonObject>
 
 namespace {
-QString requiredOutput(const ToolSession &session) {
-    if (!session.arguments().has(QStringLiteral("-o")))
-        throw UsageError(QStringLiteral("name the file to write with -o FILE"));
-    return session.arguments().value(QStringLiteral("-o"));
-}
-
 // The tiers that a file stores: the current one and those that differ from their defaults.
 std::vector<TierIndex> storedTiers(const DataSet &data) {
     std::vector<TierIndex> tiers;
@@ -128,7 +122,7 @@ class Difference {
 } // namespace
 
 int Commands::newFile(ToolSession &session) {
-    const QString out = requiredOutput(session);
+    const QString out = session.requiredOutput();
     const QString version = session.arguments().value(QStringLiteral("--version"));
     const qint32 index = version.isEmpty() ? 0 : version.toInt();
     if (!version.isEmpty() && (index < 1 || index > qint32(session.dictionary().versions().size())))
@@ -201,7 +195,7 @@ int Commands::diff(ToolSession &session) {
 }
 
 int Commands::squirt(ToolSession &session) {
-    const QString out = requiredOutput(session);
+    const QString out = session.requiredOutput();
     if (QFileInfo(out).suffix().compare(QStringLiteral("sqt"), Qt::CaseInsensitive) != 0)
         throw UsageError(QStringLiteral("the name of a squirt file ends in .sqt"));
     session.open(session.arguments().rest().first());

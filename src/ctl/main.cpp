@@ -3,9 +3,20 @@
 #include "product_identity.h"
 #include "run_time_error.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
+
+#include <memory>
 
 namespace {
+// A command that measures text needs a platform, though no display.
+std::unique_ptr<QCoreApplication> makeApplication(int &argc, char *argv[]) {
+    const Command *const command = argc < 2 ? nullptr : CommandTable::find(QString::fromLocal8Bit(argv[1]));
+    if (command == nullptr || !command->needsFonts)
+        return std::make_unique<QCoreApplication>(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 int usageError(Console &console, const QString &text) {
     console.message(QStringLiteral("kx4600ctl: ") + text);
     return ExitCode::kUsage;
@@ -40,7 +51,7 @@ int runCommand(Console &console, const QStringList &words) {
 } // namespace
 
 int main(int argc, char *argv[]) {
-    const QCoreApplication application(argc, argv);
+    const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv);
     QCoreApplication::setApplicationName(ProductIdentity::tag());
     const QStringList words = QCoreApplication::arguments().sliced(1);
     Console console;

@@ -1,5 +1,6 @@
 #include "tool_events.h"
 
+#include "ienabler.h"
 #include "message_style.h"
 #include "translation.h"
 
@@ -36,6 +37,37 @@ void ToolEvents::TransformerEvents_ChangeToTier(const QString & /*TierKey*/, con
                                                 const QHash<QString, QVariant> & /*FormNetworks*/,
                                                 const QStringList & /*FormTypeList*/, bool &Result) {
     Result = true;
+}
+
+std::vector<std::shared_ptr<Ienabler>> ToolEvents::openEnablers() const {
+    return mEnablers == nullptr ? std::vector<std::shared_ptr<Ienabler>>() : mEnablers->All();
+}
+
+void ToolEvents::TransformerEvents_RefreshGridByUIID(const QString &UIID) {
+    for (const auto &enabler : openEnablers())
+        enabler->Ienabler_RefreshGridByUIID(UIID);
+}
+
+void ToolEvents::TransformerEvents_UpdateUIFieldByUIID(const QString &UIID, qint32 RecordNr, const QVariant &Value) {
+    for (const auto &enabler : openEnablers())
+        enabler->Ienabler_UpdateUIFieldByUIID(UIID, RecordNr, Value);
+}
+
+void ToolEvents::TransformerEvents_SetEnableDisableByUIID(const QString &UIID, bool Enable) {
+    for (const auto &enabler : openEnablers())
+        enabler->Ienabler_SetEnableDisableByUIID(UIID, Enable);
+}
+
+void ToolEvents::TransformerEvents_UIIDNotFound(const QString &UIID) {
+    for (const auto &enabler : openEnablers())
+        enabler->Ienabler_UIIDNotFound(UIID);
+}
+
+void ToolEvents::TransformerEvents_EnableDisableFormItem(const QString &FormName, bool Enable) {
+    if (Enable)
+        mUnavailable.remove(FormName);
+    else
+        mUnavailable.insert(FormName);
 }
 
 void ToolEvents::mobjTransformerEvents_ProgressBarStart(qint32 /*Total*/, const QString &strProgressTitle) {

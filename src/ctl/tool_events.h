@@ -1,8 +1,11 @@
 #pragma once
 
 #include "console.h"
+#include "enabler_collection.h"
 #include "progress_events.h"
 #include "transformer_events.h"
+
+#include <QSet>
 
 // The component's messages and progress as lines on standard error. A question counts as No unless all are answered
 // Yes.
@@ -19,6 +22,11 @@ class ToolEvents final : public TransformerEvents, public ProgressEvents {
                                         const QHash<QString, QVariant> &FormAccessLevels,
                                         const QHash<QString, QVariant> &FormNetworks, const QStringList &FormTypeList,
                                         bool &Result) override;
+    void TransformerEvents_RefreshGridByUIID(const QString &UIID) override;
+    void TransformerEvents_UpdateUIFieldByUIID(const QString &UIID, qint32 RecordNr, const QVariant &Value) override;
+    void TransformerEvents_EnableDisableFormItem(const QString &FormName, bool Enable) override;
+    void TransformerEvents_SetEnableDisableByUIID(const QString &UIID, bool Enable) override;
+    void TransformerEvents_UIIDNotFound(const QString &UIID) override;
     void mobjTransformerEvents_ProgressBarStart(qint32 Total, const QString &strProgressTitle) override;
     void mobjTransformerEvents_ProgressPing(qint32 lngIncrement, const QString &strItemName,
                                             const QString &strItemPercentage) override;
@@ -37,34 +45,35 @@ class ToolEvents final : public TransformerEvents, public ProgressEvents {
     void TransformerEvents_LoadError(const QString & /*DllName*/) override {}
     void TransformerEvents_MouseDefault() override {}
     void TransformerEvents_MouseHourglass() override {}
-    void TransformerEvents_RefreshGridByUIID(const QString & /*UIID*/) override {}
     void TransformerEvents_SetTierNodeGreenTick(bool /*HighlightForm*/) override {}
     void TransformerEvents_ShowCredits() override {}
     void TransformerEvents_TerminateApplication() override {}
     void TransformerEvents_WriteLine(const QString & /*message*/) override {}
-    void TransformerEvents_UpdateUIFieldByUIID(const QString & /*UIID*/, qint32 /*RecordNr*/,
-                                               const QVariant & /*Value*/) override {}
     void TransformerEvents_FieldHasChanged() override {}
     void TransformerEvents_ClearRange() override {}
-    void TransformerEvents_EnableDisableFormItem(const QString & /*FormName*/, bool /*Enable*/) override {}
-    void TransformerEvents_SetEnableDisableByUIID(const QString & /*UIID*/, bool /*Enable*/) override {}
     void TransformerEvents_ShowFieldDetails(qint32 /*Min*/, qint32 /*Max*/, const Currency & /*Step*/,
                                             const QString & /*Unit*/) override {}
-    void TransformerEvents_UIIDNotFound(const QString & /*UIID*/) override {}
 
     // While diverted, messages are collected here instead of going to standard error (see MessageDiversion). Null ends
     // it.
     void divertMessages(QStringList *to) { mDiverted = to; }
+    // What concerns fields reaches these enablers from now on. Null ends it.
+    void showOn(const EnablerCollection *enablers) { mEnablers = enablers; }
+    // Captions of the forms that the data makes unavailable, as told last.
+    [[nodiscard]] const QSet<QString> &unavailableForms() const { return mUnavailable; }
     // Label and value of what an identified radio said about itself.
     [[nodiscard]] const QList<std::pair<QString, QString>> &radioInfo() const { return mRadioInfo; }
 
   private:
     [[nodiscard]] qint32 answer(qint32 buttons) const;
     void tell(const QString &text);
+    [[nodiscard]] std::vector<std::shared_ptr<Ienabler>> openEnablers() const;
 
     Console &mConsole;
     bool mYesToAll;
     QStringList *mDiverted = nullptr;
+    const EnablerCollection *mEnablers = nullptr;
+    QSet<QString> mUnavailable;
     QString mLastProgress;
     QList<std::pair<QString, QString>> mRadioInfo;
 };

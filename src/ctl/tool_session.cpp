@@ -31,6 +31,12 @@ void ToolSession::fail(int exitCode, const QString &text) {
     throw CommandFailed{exitCode};
 }
 
+QString ToolSession::requiredOutput() const {
+    if (!mArguments.has(QStringLiteral("-o")))
+        throw UsageError(QStringLiteral("name the file to write with -o FILE"));
+    return mArguments.value(QStringLiteral("-o"));
+}
+
 void ToolSession::open(const QString &fileName) {
     mTransformer->ReadFile(fileName, 0, 0, false);
     if (mTransformer->GetFileName() != QFileInfo(fileName).absoluteFilePath())

@@ -42,6 +42,8 @@ class ToolSession {
     void selectTier();
     // To the file of -o, else to the given one.
     void save(const QString &fileName);
+    // The file of -o. Raises UsageError where there is none.
+    [[nodiscard]] QString requiredOutput() const;
     // Ends the command with text on standard error.
     [[noreturn]] void fail(int exitCode, const QString &text);
 

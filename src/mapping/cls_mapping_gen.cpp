@@ -11,10 +11,10 @@
 
 #include <utility>
 
-clsMappingGen::clsMappingGen(Transformer &transformer, MessageBoxes &boxes, ErrorReport &errors,
-                             std::function<void()> freshStart)
-    : mTransformer(transformer), mErrors(errors), mFreshStart(std::move(freshStart)), mReader(mScript, boxes),
-      mReplay(transformer, boxes) {}
+clsMappingGen::clsMappingGen(Transformer &transformer, MessageBoxes &boxes, const Translation &translation,
+                             ErrorReport &errors, std::function<void()> freshStart)
+    : mTransformer(transformer), mErrors(errors), mFreshStart(std::move(freshStart)),
+      mReader(mScript, boxes, translation), mReplay(transformer, boxes, translation) {}
 
 bool clsMappingGen::FileLoad(const QString &FileName, bool blnLoadInitialStateFieldsOnly) try {
     if (!ReadFile(FileName, false))

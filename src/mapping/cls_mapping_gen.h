@@ -14,7 +14,8 @@ class Transformer;
 class clsMappingGen {
   public:
     // freshStart: what the main window does for a reset. All outlive it.
-    clsMappingGen(Transformer &transformer, MessageBoxes &boxes, ErrorReport &errors, std::function<void()> freshStart);
+    clsMappingGen(Transformer &transformer, MessageBoxes &boxes, const Translation &translation, ErrorReport &errors,
+                  std::function<void()> freshStart);
 
     // Reads a script and replays it with its initial states, so that the tester starts from the recorded state.
     // blnLoadInitialStateFieldsOnly: the replay after the reset is left out. False if a file could not be opened.

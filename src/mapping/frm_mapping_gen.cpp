@@ -10,11 +10,13 @@
 #include "product_identity.h"
 #include "string_utilities.h"
 #include "transformer.h"
+#include "translation.h"
 #include "value_text.h"
 #include "window_services.h"
 
 #include <QAction>
 #include <QDropEvent>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QPlainTextEdit>
@@ -26,16 +28,13 @@
 
 namespace {
 const QString kName = QStringLiteral("Mapping Test Script Generator");
-const QString kFilter = QStringLiteral("Mapping Test Scripts (*.tst)|*.tst|All Files (*.*)|*.*");
 const QString kTextField = QStringLiteral("fldTextField");
 const QString kGridField = QStringLiteral("fldGridField");
 constexpr QSize kFirstSize(520, 600);
 
-QPlainTextEdit *textBox(const QString &name, const QString &label, QWidget *parent) {
+QPlainTextEdit *textBox(const QString &name, QWidget *parent) {
     auto *box = new QPlainTextEdit(parent);
     box->setObjectName(name);
-    box->setAccessibleName(label);
-    box->setPlaceholderText(label);
     box->setLineWrapMode(QPlainTextEdit::NoWrap);
     return box;
 }
@@ -70,10 +69,10 @@ const frmMappingGen::MenuRow frmMappingGen::kMenuRows[] = {
 
 frmMappingGen::frmMappingGen(const Services &services)
     : QMainWindow(services.shell.Window(), Qt::Tool), mServices(services), mErrors(services.errors),
-      mRecorder(services.transformer, services.boxes, services.errors,
+      mRecorder(services.transformer, services.boxes, services.translation, services.errors,
                 [&shell = services.shell] { shell.ResetToDefaults(); }),
-      mTxtComments(textBox(QStringLiteral("txtComments"), QStringLiteral("Purpose"), this)),
-      mTxtScript(textBox(QStringLiteral("txtScript"), QStringLiteral("Script"), this)) {
+      mTxtComments(textBox(QStringLiteral("txtComments"), this)),
+      mTxtScript(textBox(QStringLiteral("txtScript"), this)) {
     setObjectName(QStringLiteral("frmMappingGen"));
     resize(kFirstSize);
     auto *splitter = new QSplitter(Qt::Vertical, this);
@@ -86,17 +85,27 @@ frmMappingGen::frmMappingGen(const Services &services)
     mTxtScript->viewport()->installEventFilter(this);
     mTxtScript->setAcceptDrops(true);
     addMenus();
+    setTexts();
     connect(mTxtComments, &QPlainTextEdit::textChanged, this, [this] { txtComments_Change(); });
     SetTitle(QString());
     UpdateUI();
+}
+
+QString frmMappingGen::translated(const QString &text) const { return mServices.translation.NLSStr(text); }
+
+QString frmMappingGen::fileFilter() const {
+    return translated(QStringLiteral("Mapping Test Scripts")) + QStringLiteral(" (*.tst)|*.tst|") +
+           translated(QStringLiteral("All Files")) + QStringLiteral(" (*.*)|*.*");
 }
 
 void frmMappingGen::addMenus() {
     QMenu *menu = nullptr;
     for (const MenuRow &row : kMenuRows) {
         const QString title = QString::fromLatin1(row.menu);
-        if (menu == nullptr || menu->title() != title)
+        if (menu == nullptr || menu->objectName() != title) {
             menu = menuBar()->addMenu(title);
+            menu->setObjectName(title);
+        }
         QAction *action = menu->addAction(QString::fromLatin1(row.caption));
         action->setObjectName(QString::fromLatin1(row.name));
         connect(action, &QAction::triggered, this, [this, run = row.run] { run(*this); });
@@ -104,16 +113,34 @@ void frmMappingGen::addMenus() {
     findChild<QAction *>(QStringLiteral("mnuDock"))->setCheckable(true);
 }
 
+void frmMappingGen::setTexts() {
+    for (const MenuRow &row : kMenuRows) {
+        findChild<QMenu *>(QString::fromLatin1(row.menu))->setTitle(translated(QString::fromLatin1(row.menu)));
+        findChild<QAction *>(QString::fromLatin1(row.name))->setText(translated(QString::fromLatin1(row.caption)));
+    }
+    for (const auto &[box, label] :
+         {std::pair(mTxtComments, QStringLiteral("Purpose")), std::pair(mTxtScript, QStringLiteral("Script"))}) {
+        box->setAccessibleName(translated(label));
+        box->setPlaceholderText(translated(label));
+    }
+    setWindowTitle(translated(kName) + (mShownName.isEmpty() ? QString() : QStringLiteral(" - ") + mShownName) +
+                   QStringLiteral(" (%1)").arg(ProductIdentity::fullVersion()));
+}
+
+void frmMappingGen::showEvent(QShowEvent *event) {
+    setTexts();
+    QMainWindow::showEvent(event);
+}
+
 void frmMappingGen::UpdateUI() try { clsMappingGen::GetAsTextBox(*mTxtScript, mRecorder.UICollection()); }
 ERROR_TAIL()
 
 void frmMappingGen::SetTitle(const QString &FileName) try {
     statusBar()->clearMessage();
-    const QString name = MappingNames::withoutFolder(TrimBlanks(FileName));
-    if (!name.isEmpty())
-        statusBar()->showMessage(name);
-    setWindowTitle(kName + (name.isEmpty() ? QString() : QStringLiteral(" - ") + name) +
-                   QStringLiteral(" (%1)").arg(ProductIdentity::fullVersion()));
+    mShownName = MappingNames::withoutFolder(TrimBlanks(FileName));
+    if (!mShownName.isEmpty())
+        statusBar()->showMessage(mShownName);
+    setTexts();
 }
 ERROR_TAIL()
 
@@ -219,7 +246,8 @@ void frmMappingGen::load(const QString &fileName) {
 }
 
 void frmMappingGen::mnuFileLoad_Click() try {
-    if (const auto name = mServices.shell.ChooseFile({QStringLiteral("Open Test Script"), kFilter}, this))
+    if (const auto name =
+            mServices.shell.ChooseFile({translated(QStringLiteral("Open Test Script")), fileFilter()}, this))
         load(*name);
 }
 ERROR_TAIL()
@@ -227,12 +255,13 @@ ERROR_TAIL()
 void frmMappingGen::mnuFileSave_Click() try {
     if (!mServices.shell.IsFormLoaded() || !mServices.shell.FinalValidation())
         return;
-    const auto name = mServices.shell.ChooseFile({QStringLiteral("Save Test Script"), kFilter, true}, this);
+    const auto name =
+        mServices.shell.ChooseFile({translated(QStringLiteral("Save Test Script")), fileFilter(), true}, this);
     if (!name)
         return;
     if (!mRecorder.FileSave(*name)) {
-        mServices.boxes.MsgBox(QStringLiteral("The file %1 could not be written.").arg(*name), MessageStyle::kCritical,
-                               kName);
+        mServices.boxes.TranslateMsgBox(QStringLiteral("The file %0:S could not be written."), MessageStyle::kCritical,
+                                        kName, *name);
         return;
     }
     UpdateUI();
@@ -243,10 +272,10 @@ ERROR_TAIL()
 bool frmMappingGen::hasData() { return !mRecorder.InitialStateFile().isEmpty() || !mRecorder.UIFields().isEmpty(); }
 
 void frmMappingGen::mnuNew_Click() try {
-    if (hasData() &&
-        mServices.boxes.MsgBox(QStringLiteral("If you continue your mapping test script generation output will be "
-                                              "lost.  Are you sure you want to continue?"),
-                               MessageStyle::kYesNo + MessageStyle::kQuestion, kName) == MessageAnswer::kNo)
+    if (hasData() && mServices.boxes.TranslateMsgBox(
+                         QStringLiteral("If you continue your mapping test script generation output will be "
+                                        "lost.  Are you sure you want to continue?"),
+                         MessageStyle::kYesNo + MessageStyle::kQuestion, kName, QString()) == MessageAnswer::kNo)
         return;
     mRecorder.ResetToDefaults();
     mSavedLines = 0;
@@ -257,7 +286,8 @@ void frmMappingGen::mnuNew_Click() try {
 ERROR_TAIL()
 
 void frmMappingGen::mnuInitialStateLoad_Click() try {
-    if (const auto name = mServices.shell.ChooseFile({QStringLiteral("Open Test Script"), kFilter}, this))
+    if (const auto name =
+            mServices.shell.ChooseFile({translated(QStringLiteral("Open Test Script")), fileFilter()}, this))
         LoadInitialState(*name);
 }
 ERROR_TAIL()

@@ -23,6 +23,7 @@ class frmMappingGen final : public QMainWindow {
     struct Services {
         Transformer &transformer;
         MessageBoxes &boxes;
+        const Translation &translation;
         ErrorReport &errors;
         MappingShell &shell;
     };
@@ -52,6 +53,7 @@ class frmMappingGen final : public QMainWindow {
     [[nodiscard]] const QStringList &OriginalValue() const { return mOriginal; }
 
   protected:
+    void showEvent(QShowEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
 
@@ -59,6 +61,10 @@ class frmMappingGen final : public QMainWindow {
     struct MenuRow;
     static const MenuRow kMenuRows[];
     void addMenus();
+    [[nodiscard]] QString translated(const QString &text) const;
+    [[nodiscard]] QString fileFilter() const;
+    // In the present language, which may have changed since the window was last shown.
+    void setTexts();
     void txtComments_Change();
     void load(const QString &fileName);
     void LoadInitialState(const QString &FileName);
@@ -76,5 +82,6 @@ class frmMappingGen final : public QMainWindow {
     QString mLastValue;
     qsizetype mSavedLines = 0; // at the last save of a form
     QStringList mOriginal{QString(), QString(), QString()};
+    QString mShownName; // of the script, without folders
     bool mDocked = false;
 };

@@ -4,6 +4,7 @@
 #include "page_sink.h"
 #include "page_writer.h"
 #include "print_messages.h"
+#include "report_font.h"
 
 #include <utility>
 
@@ -40,7 +41,8 @@ bool clsPrint::start(std::unique_ptr<PageSink> sink) {
 bool clsPrint::SetPrinterParameters(PageSink *sink) try {
     if (sink == nullptr)
         throw RunTimeError(ErrorNumber::kPrinter, QStringLiteral("clsPrint"), QStringLiteral("Printer error"));
-    mWriter = std::make_unique<PageWriter>(*sink, chooseFont(*sink));
+    const QString font = reportFont(sink->Fonts(), mPlatform.IsChineseLocale(), mPlatform.WindowFont());
+    mWriter = std::make_unique<PageWriter>(*sink, font);
     return true;
 } catch (const RunTimeError &error) {
     if (error.Number != ErrorNumber::kPrinter && error.Number != ErrorNumber::kPrinterSetup)
@@ -48,16 +50,6 @@ bool clsPrint::SetPrinterParameters(PageSink *sink) try {
     PrintMessages::tell(mBoxes,
                         error.Number == ErrorNumber::kPrinter ? PrintMessages::kNoPrinters : PrintMessages::kNotSetUp);
     return false;
-}
-
-QString clsPrint::chooseFont(const PageSink &sink) const {
-    const QStringList fonts = sink.Fonts();
-    const QString first = mPlatform.IsChineseLocale() ? QStringLiteral("MS Mincho") : QStringLiteral("Courier");
-    for (const QString &name : {first, QStringLiteral("Courier New")}) {
-        if (fonts.contains(name, Qt::CaseInsensitive))
-            return name;
-    }
-    return mPlatform.WindowFont();
 }
 
 // A printer that fails while it prints is no error of the program: the report above stops and tells it.

@@ -35,7 +35,6 @@ class clsPrint final : public ReportLines {
   private:
     bool start(std::unique_ptr<PageSink> sink);
     bool SetPrinterParameters(PageSink *sink);
-    [[nodiscard]] QString chooseFont(const PageSink &sink) const;
 
     PrinterPlatform &mPlatform;
     MessageBoxes &mBoxes;

@@ -1,35 +1,15 @@
 #include "grid_lists.h"
 
+#include "combo_column.h"
 #include "combo_translation.h"
 #include "transformer.h"
 #include "translation.h"
 #include "value_text.h"
 
-#include <algorithm>
-#include <vector>
-
 namespace {
 constexpr qint32 kDiffersByRecord = 2;
 
 QString textOf(const XArrayDB &items, qint32 row) { return ValueText::of(items.Value(row, 0)); }
-
-// The numbers that a column's items store, in their order; empty when the position is the value.
-std::vector<double> storedNumbers(const QString &map) {
-    std::vector<double> numbers;
-    if (map.isEmpty() || ValueText::isUndefined(map))
-        return numbers;
-    for (const QString &entry : map.split(u'|'))
-        numbers.push_back(ValueText::number(entry).value_or(0));
-    return numbers;
-}
-
-// A value that no item stores counts as a position.
-qint32 positionIn(const std::vector<double> &numbers, const QVariant &value) {
-    if (ValueText::isUndefined(value))
-        return 0;
-    const auto found = std::find(numbers.begin(), numbers.end(), ValueText::number(value).value_or(0));
-    return found == numbers.end() ? ValueText::toIntegerOr(value, 0) : qint32(found - numbers.begin());
-}
 } // namespace
 
 void GridLists::askForComboItems(const QString &uiid, qint32 record, XArrayDB &items, qint32 &scope) const {
@@ -103,16 +83,7 @@ void GridLists::ConvertEntriesToUI(XArrayDB &array, const GridColumns &columns) 
 }
 
 void GridLists::convertColumn(XArrayDB &array, qint32 column, const QString &uiid) const {
-    if (array.UpperBound(1) < 0)
-        return;
-    const std::vector<double> numbers = storedNumbers(mGrid.Component().GetIsComboIndex(uiid));
-    XArrayDB items;
-    qint32 scope = kDiffersByRecord;
-    for (qint32 row = 0; row <= array.UpperBound(1); ++row) {
-        if (scope == kDiffersByRecord)
-            askForComboItems(uiid, row + 1, items, scope);
-        const qint32 position = positionIn(numbers, array.Value(row, column));
-        const bool meant = position >= 0 && position <= items.UpperBound(1);
-        array.SetValue(row, column, meant ? items.Value(position, 0) : QVariant(ValueText::undefined()));
-    }
+    comboColumnToUI(
+        array, column, mGrid.Component().GetIsComboIndex(uiid),
+        [&](qint32 record, XArrayDB &items, qint32 &scope) { askForComboItems(uiid, record, items, scope); });
 }

@@ -147,7 +147,9 @@ struct frmMain::Wiring {
 
     // Development aids
     MappingShellAdapter mapping{
-        with.process, with.boxes, with.errors, {window, host, [this] { documentCommands.ResetToDefaults(); }}};
+        with.process, with.boxes, with.translation, with.errors, {window, host, [this] {
+                                                                      documentCommands.ResetToDefaults();
+                                                                  }}};
 
     // Tiers, events, beginning and end
     Tiers tiers{with.transformer,

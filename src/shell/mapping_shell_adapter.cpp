@@ -22,16 +22,16 @@ QStringList nameFilters(const QString &filter) {
 }
 } // namespace
 
-MappingShellAdapter::MappingShellAdapter(const ProcessValues &process, MessageBoxes &boxes, ErrorReport &errors,
-                                         Parts parts)
-    : mProcess(process), mBoxes(boxes), mErrors(errors), mParts(std::move(parts)) {}
+MappingShellAdapter::MappingShellAdapter(const ProcessValues &process, MessageBoxes &boxes,
+                                         const Translation &translation, ErrorReport &errors, Parts parts)
+    : mProcess(process), mBoxes(boxes), mTranslation(translation), mErrors(errors), mParts(std::move(parts)) {}
 
 MappingShellAdapter::~MappingShellAdapter() = default;
 
 void MappingShellAdapter::mnuMappingsGen_Click() try {
     if (mMappingWindow == nullptr)
-        mMappingWindow =
-            std::make_unique<frmMappingGen>(frmMappingGen::Services{*mProcess.objTransformer, mBoxes, mErrors, *this});
+        mMappingWindow = std::make_unique<frmMappingGen>(
+            frmMappingGen::Services{*mProcess.objTransformer, mBoxes, mTranslation, mErrors, *this});
     mMappingWindow->show();
     mMappingWindow->activateWindow();
 }

@@ -9,6 +9,7 @@ class ErrorReport;
 class FormHost;
 class frmMappingGen;
 class MessageBoxes;
+class Translation;
 struct ProcessValues;
 
 // The main window as the mapping window needs it, and the command that shows that window.
@@ -19,7 +20,8 @@ class MappingShellAdapter final : public MappingShell {
         FormHost &host;
         std::function<void()> resetToDefaults;
     };
-    MappingShellAdapter(const ProcessValues &process, MessageBoxes &boxes, ErrorReport &errors, Parts parts);
+    MappingShellAdapter(const ProcessValues &process, MessageBoxes &boxes, const Translation &translation,
+                        ErrorReport &errors, Parts parts);
     ~MappingShellAdapter() override;
     Q_DISABLE_COPY_MOVE(MappingShellAdapter)
 
@@ -34,6 +36,7 @@ class MappingShellAdapter final : public MappingShell {
   private:
     const ProcessValues &mProcess;
     MessageBoxes &mBoxes;
+    const Translation &mTranslation;
     ErrorReport &mErrors;
     Parts mParts;
     std::unique_ptr<frmMappingGen> mMappingWindow;

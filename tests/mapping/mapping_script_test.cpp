@@ -33,7 +33,7 @@ class MappingScriptTest : public QObject {
         CallLog log;
         RecordingTransformer transformer{log};
         TestServices services{&transformer};
-        clsMappingGen recorder{transformer, services.boxes, services.errors,
+        clsMappingGen recorder{transformer, services.boxes, services.translation, services.errors,
                                [this] { log.add(QStringLiteral("Fresh")); }};
         QTemporaryDir folder;
         QString write(const QString &name, const QString &text) const {

@@ -7,6 +7,7 @@
 #include "message_style.h"
 #include "process_values.h"
 #include "transformer.h"
+#include "translation.h"
 #include "value_text.h"
 #include "window_input.h"
 
@@ -54,6 +55,7 @@ class MappingWindowTest : public QObject {
     void cancelledAndRefusedSavesDoNothing();
     void newAsksOnlyOverAScript();
     void hookPointsRecordAndRevert();
+    void textsAreInThePresentLanguage();
 
   private:
     [[nodiscard]] QPlainTextEdit &box(const char *name) const {
@@ -62,6 +64,7 @@ class MappingWindowTest : public QObject {
     std::unique_ptr<HelpBench> mBench;
     std::unique_ptr<PreparedShell> mShell;
     std::unique_ptr<frmMappingGen> mWindow;
+    Translation mTranslation;
     QTemporaryDir mFolder;
 };
 
@@ -70,7 +73,7 @@ void MappingWindowTest::init() {
     mShell = std::make_unique<PreparedShell>();
     mBench->component().ResetDatabase();
     mWindow = std::make_unique<frmMappingGen>(
-        frmMappingGen::Services{mBench->component(), mBench->boxes, mBench->errors, *mShell});
+        frmMappingGen::Services{mBench->component(), mBench->boxes, mTranslation, mBench->errors, *mShell});
 }
 
 void MappingWindowTest::hiddenEntryOpensByKey() {
@@ -145,7 +148,7 @@ void MappingWindowTest::cancelledAndRefusedSavesDoNothing() {
     QCOMPARE(mShell->titles.size(), 1);
     mShell->formLoaded = true;
     mShell->file = mFolder.filePath(QStringLiteral("no/such/file.tst"));
-    mBench->boxes.expect(QStringLiteral("The file %1 could not be written.").arg(mShell->file), 0);
+    mBench->boxes.expect(QStringLiteral("The file %0:S could not be written."), 0);
     mWindow->mnuFileSave_Click();
 }
 
@@ -184,6 +187,22 @@ void MappingWindowTest::hookPointsRecordAndRevert() {
     QCOMPARE(mWindow->Recorder().UIFields().size(), 2);
     QVERIFY(mWindow->RevertForm());
     QVERIFY(mWindow->Recorder().UIFields().isEmpty());
+}
+
+// Also where the language changes while the window is hidden.
+void MappingWindowTest::textsAreInThePresentLanguage() {
+    mTranslation.Dictionary().Load(qEnvironmentVariable("KX4600_BIN") + QStringLiteral("/KX4600.mld"));
+    for (const qint32 language : {2, 1}) {
+        mTranslation.gLanguage = language;
+        mWindow->show();
+        mWindow->hide();
+        const bool french = language == 2;
+        QVERIFY(mWindow->windowTitle().startsWith(french ? QStringLiteral("Générateur")
+                                                         : QStringLiteral("Mapping Test Script Generator")));
+        QCOMPARE(mWindow->findChild<QAction *>(QStringLiteral("mnuFileLoad"))->text(),
+                 french ? QStringLiteral("&Charger...") : QStringLiteral("&Load..."));
+        QCOMPARE(box("txtComments").placeholderText(), french ? QStringLiteral("Objet") : QStringLiteral("Purpose"));
+    }
 }
 
 int main(int argc, char **argv) {

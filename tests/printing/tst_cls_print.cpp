@@ -37,7 +37,6 @@ class tst_ClsPrint : public QObject {
     void fontIsChosenByExactName_data();
     void fontIsChosenByExactName();
     void printerThatFailsInTheMiddleEndsTheReport();
-    void failureAtTheEndIsTold();
     void otherErrorsAreReported();
     void choiceSurvivesFromOneReportToTheNext();
     void cancelledDialogChangesNothing();
@@ -117,15 +116,6 @@ void tst_ClsPrint::printerThatFailsInTheMiddleEndsTheReport() {
     printing.script.failsAtNewPage = false;
     QVERIFY(printing.print.NewDocument());
     QVERIFY(printing.line(u"again"_s));
-}
-
-void tst_ClsPrint::failureAtTheEndIsTold() {
-    Printing printing;
-    printing.useScript();
-    printing.script.failsToEnd = true;
-    QVERIFY(printing.print.NewDocument());
-    printing.services.boxes.expect(kCancelled, 1);
-    QVERIFY(!printing.print.EndDocument());
 }
 
 void tst_ClsPrint::otherErrorsAreReported() {

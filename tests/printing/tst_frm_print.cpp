@@ -97,10 +97,8 @@ class tst_FrmPrint : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void listShowsTheFormsWithTheOpenOneChecked();
     void printNeedsACheckedForm();
     void checkedFormsArePrintedInOrder();
-    void tablesFramesAndRecordsOnPaper();
     void bannerNamesModelTimeAndFile();
     void formStandsUnderPrintWhileItIsPrinted();
     void storedPositionsAreAsBefore_data();
@@ -111,17 +109,7 @@ class tst_FrmPrint : public QObject {
     void pdfIsWrittenFromTheSameWalk();
     void previewShowsThePages();
     void printerSettingsNeedADefaultPrinter();
-    void everyControlHasAName();
 };
-
-void tst_FrmPrint::listShowsTheFormsWithTheOpenOneChecked() {
-    const Dialog dialog;
-    QStringList rows;
-    const auto &list = dialog.find<QListWidget>("lstForms");
-    for (int row = 0; row < list.count(); ++row)
-        rows << list.item(row)->text() + (list.item(row)->checkState() == Qt::Checked ? u" x"_s : QString());
-    QCOMPARE(rows, QStringList({u"Start-up"_s, u"Networks - Alerts x"_s, u"Networks - PTT"_s}));
-}
 
 void tst_FrmPrint::printNeedsACheckedForm() {
     const Dialog dialog;
@@ -147,44 +135,6 @@ void tst_FrmPrint::checkedFormsArePrintedInOrder() {
              QStringList({u"Start-up"_s, QString(), u"--------"_s, u"Power: High"_s, u"Networks - Alerts"_s, QString(),
                           u"-----------------"_s, u"Power: High"_s}));
     QCOMPARE(dialog.shell.busy, 0);
-}
-
-void tst_FrmPrint::tablesFramesAndRecordsOnPaper() {
-    Dialog dialog;
-    dialog.printers.size = {.columns = 40, .lines = 60};
-    BoundForm &form = dialog.bound;
-    auto &frame = form.add<FakeField>(u"fraBox"_s, u"fldFrame"_s);
-    auto &inner = form.add<FakeField>(u"fraInner"_s, u"fldFrame"_s);
-    frame.caption = u"Transmitter"_s;
-    inner.caption = u"Timers"_s;
-    inner.container = &frame;
-    auto &limit = form.addText(u"txtLimit"_s);
-    limit.container = &inner;
-    limit.stream = 1;
-    form.component.when(u"GetLabel"_s, u"Limit"_s).answers(u"Time limit before the tone"_s);
-    form.component.when(u"GetValue"_s, u"Limit"_s, 2).answers(u"sixty seconds and a half"_s);
-    auto &grid = form.add<FakeGrid>(u"grdList"_s, u"A|B"_s);
-    grid.heads = {u" Nr"_s, u"        Name"_s};
-    grid.array.ReDim(0, 1);
-    grid.array.SetValue(0, 0, 7);
-    grid.array.SetValue(0, 1, u"a name that does not fit into its column"_s);
-    form.add<FakeNavigator>(u"navGuide"_s).stream = 1;
-    form.component.when(u"GetNumberOfRecords"_s).answers(2);
-    form.component.when(u"GetValue"_s, u"Guide"_s, 1).answers(u"North"_s);
-    form.component.when(u"GetValue"_s, u"Guide"_s, 2).answers(u"South"_s);
-    dialog.find<QCheckBox>("chkPrintAll").setChecked(true);
-    dialog.click("cmdPrint");
-    const QString table = u" Nr                         Name\n7                   a name that does\n"
-                          "                    not fit into its\n                    column\n"_s;
-    const QString expected = u"Networks - Alerts\n\n-----------------\nPower: High\n"_s + table +
-                             u"\n\nNetworks - Alerts North\nTransmitter\n    Timers\n"
-                             "        Time limit before the tone:\nUndefined\n\n\n"_s +
-                             table +
-                             u"\n\nNetworks - Alerts South\nTransmitter\n    Timers\n"
-                             "        Time limit before the tone:\nsixty seconds and a half\n\n\n"_s +
-                             table + u"\n"_s;
-    const QString text = TextPageSink::textOf(dialog.printers.pages);
-    QCOMPARE(text.mid(text.indexOf(u"Networks"_s)), expected + u"\n"_s);
 }
 
 void tst_FrmPrint::bannerNamesModelTimeAndFile() {
@@ -352,14 +302,6 @@ void tst_FrmPrint::printerSettingsNeedADefaultPrinter() {
     dialog.printers.defaultPrinter = u"Office"_s;
     dialog.click("cmdPrinterSettings");
     QCOMPARE(dialog.printers.calls, QStringList(u"PrintDlg 1048580 "_s));
-}
-
-void tst_FrmPrint::everyControlHasAName() {
-    const Dialog dialog;
-    QCOMPARE(dialog.find<QListWidget>("lstForms").accessibleName(), u"Forms to print"_s);
-    for (QPushButton *button : dialog.window->findChildren<QPushButton *>())
-        QVERIFY(!button->text().isEmpty() && !button->objectName().isEmpty());
-    QVERIFY(dialog.find<QPushButton>("cmdPrint").isDefault());
 }
 
 QTEST_MAIN(tst_FrmPrint)

@@ -18,9 +18,9 @@ class UnseenGrid final : public UnseenField, public Igrid {
     void Igrid_InsertRow(const XArrayDB & /*NewRowArray*/, qint32 /*lngRowNumber*/) override {}
     QStringList Igrid_GetHeader() const override;
     XArrayDB &Igrid_GetArray() override { return mRows; }
-    // A column that the component has no label for is dropped.
     void Igrid_SetColumns() override;
-    void Igrid_Rebind(bool /*Dynamic*/) override {}
+    // What is stored in Combo columns becomes the items' texts.
+    void Igrid_Rebind(bool Dynamic) override;
     QString Igrid_GetUIIDList() const override { return mUIIDs.join(u'|'); }
     QString Igrid_GetGridID() const override { return Ifield_GetUIID(); }
     void Igrid_SetValue(const QString & /*UIID*/, qint32 /*RecordNr*/, const QVariant & /*Value*/) override {}
@@ -32,5 +32,6 @@ class UnseenGrid final : public UnseenField, public Igrid {
     const FieldServices &mServices;
     bool mDynamic;
     QStringList mUIIDs;
+    std::vector<qint32> mComboColumns;
     XArrayDB mRows;
 };

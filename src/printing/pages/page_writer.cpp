@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <ranges>
 #include <utility>
 
 namespace {
@@ -12,6 +13,7 @@ namespace {
 constexpr double kReferenceHeight = 0.3563059;
 constexpr double kReferenceWidth = 0.2116669;
 constexpr double kMargin = 2.0;
+constexpr double kTolerance = 0.01;
 const QString kLineBreak = QStringLiteral("\r\n");
 const QString kIndent = QStringLiteral("    "); // what a tab takes in a plain line
 
@@ -27,14 +29,14 @@ PageWriter::PageWriter(PageSink &sink, const QString &fontName) : mSink(sink), m
     mSink.SetFont(mFontName, false);
     const double height = mSink.TextHeight();
     const double width = mSink.TextWidth(QStringLiteral("W"));
+    mIsFixedPitch = width - mSink.TextWidth(QStringLiteral("i")) < width * kTolerance;
     mLineHeight = height * height / kReferenceHeight;
-    mCharacterWidth = width * width / kReferenceWidth;
+    mCharacterWidth = mIsFixedPitch ? width * width / kReferenceWidth : mSink.TextWidth(QStringLiteral("0"));
     const PageFrame frame = mSink.Frame();
     mTopMargin = frame.offsetY + kMargin;
     mLeftMargin = frame.offsetX + kMargin;
     mPageLimit = frame.height - 2 * mTopMargin;
     mTextWidth = frame.width - 2 * mLeftMargin;
-    mCharactersPerLine = std::max(1, int(std::floor(mTextWidth / mCharacterWidth)));
     mCurrentY = mTopMargin;
 }
 
@@ -66,13 +68,29 @@ void PageWriter::servePageBreak() {
 void PageWriter::printRule() { mSink.PrintRule(mLeftMargin, mLeftMargin + mTextWidth, mCurrentY); }
 
 void PageWriter::printWrapped(const QString &text, bool bold) {
+    mSink.SetFont(mFontName, bold);
     QString rest = text;
-    while (rest.size() > mCharactersPerLine) {
-        const qsizetype cut = WrapPosition(rest, mCharactersPerLine);
+    for (qsizetype fits = fitting(rest, mTextWidth); rest.size() > fits; fits = fitting(rest, mTextWidth)) {
+        const qsizetype cut = WrapPosition(rest, fits);
         PrintALine(rest.first(cut), bold);
         rest.remove(0, cut);
     }
     PrintALine(rest, bold);
+}
+
+int PageWriter::charactersIn(double width) const { return std::max(1, int(std::floor(width / mCharacterWidth))); }
+
+// Characters of one width are counted. Others are measured: a count by the widest of them would leave half of each line
+// empty and cut most words of a table.
+qsizetype PageWriter::fitting(const QString &text, double width) const {
+    if (mIsFixedPitch)
+        return charactersIn(width);
+    if (mSink.TextWidth(text) <= width)
+        return text.size();
+    const auto lengths = std::views::iota(qsizetype(1), text.size());
+    const auto tooLong =
+        std::ranges::partition_point(lengths, [&](qsizetype n) { return mSink.TextWidth(text.first(n)) <= width; });
+    return std::max<qsizetype>(1, tooLong - lengths.begin());
 }
 
 void PageWriter::PrintALine(const QString &text, bool bold) {
@@ -95,14 +113,14 @@ void PageWriter::PrintColumns(const QString &text, bool bold, CellAlignment alig
 
 int PageWriter::printCell(QString cell, int column, const ColumnLayout &layout, CellAlignment alignment) {
     const double usableWidth = layout.columnWidth - mCharacterWidth;
-    const int characters = std::max(1, int(std::floor(usableWidth / mCharacterWidth)));
     const auto print = [&](const QString &part, int wrap) {
         const double x = layout.CellX(column, mSink.TextWidth(part), alignment);
         mSink.PrintText(x, mCurrentY + mLineHeight * wrap, part);
     };
     int wraps = 0;
-    while (cell.size() > characters && mSink.TextWidth(cell) > usableWidth) {
-        const qsizetype cut = WrapPosition(cell, characters);
+    for (qsizetype fits = fitting(cell, usableWidth); cell.size() > fits && mSink.TextWidth(cell) > usableWidth;
+         fits = fitting(cell, usableWidth)) {
+        const qsizetype cut = WrapPosition(cell, fits);
         print(cell.first(cut), wraps++);
         cell.remove(0, cut);
     }

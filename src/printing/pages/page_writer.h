@@ -6,8 +6,9 @@
 
 class PageSink;
 
-// Puts lines of text on pages: a small line printer with a fixed-pitch font, word wrap, table rows, rules, and a page
-// break that waits for the next line, so that a full last page is not followed by an empty one. Lengths in centimetres.
+// Puts lines of text on pages: a small line printer, made for a fixed-pitch font, with word wrap, table rows, rules,
+// and a page break that waits for the next line, so that a full last page is not followed by an empty one. Lengths in
+// centimetres.
 class PageWriter {
   public:
     // Measures the page and the font. The sink outlives the writer. Raises what the sink raises.
@@ -16,7 +17,8 @@ class PageWriter {
     // Raises what the sink raises; nothing can be printed after that.
     void PrintLine(const QString &Text, bool Bold, bool Columns, bool Ruled);
 
-    [[nodiscard]] int CharactersPerLine() const { return mCharactersPerLine; }
+    // By the character's width, which for a font of varying widths is that of a digit.
+    [[nodiscard]] int CharactersPerLine() const { return charactersIn(mTextWidth); }
     [[nodiscard]] const QString &FontName() const { return mFontName; }
 
   private:
@@ -28,9 +30,12 @@ class PageWriter {
     // The number of lines that the cell takes beyond the first.
     [[nodiscard]] int printCell(QString cell, int column, const ColumnLayout &layout, CellAlignment alignment);
     void advance(double height);
+    [[nodiscard]] int charactersIn(double width) const; // at least 1
+    // How many of the text's characters have room in the width, at least 1; more than there are where all have.
+    [[nodiscard]] qsizetype fitting(const QString &text, double width) const;
 
     PageSink &mSink;
-    int mCharactersPerLine = 1;
+    bool mIsFixedPitch = true;
     double mLineHeight = 0;
     double mCharacterWidth = 0;
     double mCurrentY = 0; // where the next line goes

@@ -2,6 +2,7 @@
 
 #include "message_style.h"
 #include "string_utilities.h"
+#include "translation.h"
 #include "window_services.h"
 
 #include <QFile>
@@ -24,16 +25,14 @@ QString MappingScriptReader::located(const QString &fileName) const {
 
 bool MappingScriptReader::read(const QString &fileName, bool initialState) {
     if (mVisited.contains(fileName)) {
-        mBoxes.MsgBox(QStringLiteral("The initial state file contains several references to '") + fileName + u'\'',
-                      MessageStyle::kOkOnly, QString());
+        tell(QStringLiteral("The initial state file contains several references to '%0:S'"), fileName);
         return true;
     }
     mVisited.insert(fileName);
     const QString path = located(unquoted(fileName));
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
-        mBoxes.MsgBox(QStringLiteral("Initial State file %1 not found").arg(unquoted(fileName)), MessageStyle::kOkOnly,
-                      QString());
+        tell(QStringLiteral("Initial State file %0:S not found"), unquoted(fileName));
         return false;
     }
     const QStringList lines = QString::fromUtf8(file.readAll()).remove(u'\r').split(u'\n');
@@ -102,4 +101,8 @@ bool MappingScriptReader::take(const QString &line, const Reading &reading) {
 void MappingScriptReader::takePurpose(const QString &line) {
     const bool first = TrimBlanks(line).startsWith(kPurpose);
     mScript.comments << TrimBlanks(first ? TrimBlanks(line).mid(kPurpose.size()) : line.mid(kCommentMark));
+}
+
+void MappingScriptReader::tell(const QString &text, const QString &fileName) {
+    mBoxes.MsgBox(Translation::Fill(mTranslation.NLSStr(text), {fileName}), MessageStyle::kOkOnly, QString());
 }
