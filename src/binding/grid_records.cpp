@@ -11,6 +11,7 @@
 #include "record_rows.h"
 #include "transformer.h"
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -28,6 +29,21 @@ void GridRecords::fetchRow(const ControlItemPtr &item, qint32 record,
     component().GetGridData(grid.Igrid_GetUIIDList(), grid.Igrid_Dynamic(), row, record, got);
     if (got && !item->Terminated())
         place(grid, row);
+}
+
+// Another grid of the form may show the same records.
+void GridRecords::refill(const ControlItemPtr &item) {
+    if (item->Terminated())
+        return;
+    const QStringList uiids = item->as<Igrid>().Igrid_GetUIIDList().split(u'|', Qt::SkipEmptyParts);
+    mFields.PopulateGrid(item);
+    for (const ControlItemPtr &other : mItems.ofType(FieldType::Grid)) {
+        if (other == item || other->Terminated())
+            continue;
+        const QStringList shown = other->as<Igrid>().Igrid_GetUIIDList().split(u'|', Qt::SkipEmptyParts);
+        if (std::ranges::any_of(shown, [&uiids](const QString &uiid) { return uiids.contains(uiid); }))
+            mFields.PopulateGrid(other);
+    }
 }
 
 void GridRecords::refreshNavigators(const ControlItemPtr &item) {
@@ -113,8 +129,7 @@ void GridRecords::Notify_ImportRecordByPaste(const ControlItemPtr &item, const F
     const auto [uiidList, selectedRecords] = event.unpack<QString, QString>();
     component().ImportRecordByPaste(item->as<Igrid>().Igrid_GetGridID(), uiidList, mServices.shell.MainWindow(),
                                     QString(), selectedRecords);
-    if (!item->Terminated())
-        mFields.PopulateGrid(item);
+    refill(item);
     refreshNavigators(item);
 }
 ERROR_TAIL()
@@ -125,8 +140,7 @@ void GridRecords::Notify_ImportRecordByDrop(const ControlItemPtr &item, const Fi
                                    event.parameter<const QMimeData *>(2), mServices.shell.MainWindow(), true);
     if (active != nullptr && !active->Terminated())
         active->SetFocus();
-    if (!item->Terminated())
-        mFields.PopulateGrid(item);
+    refill(item);
     refreshNavigators(item);
 }
 ERROR_TAIL()

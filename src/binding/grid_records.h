@@ -32,6 +32,7 @@ class GridRecords : private EnablerPart {
     // Reads the one row of a record and gives it to the grid, where the component has it.
     void fetchRow(const ControlItemPtr &item, qint32 record,
                   const std::function<void(Igrid &, const XArrayDB &)> &place);
+    void refill(const ControlItemPtr &item);
     void refreshNavigators(const ControlItemPtr &item);
 
     FieldInitialisation &mFields;

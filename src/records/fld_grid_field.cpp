@@ -5,6 +5,7 @@
 #include "form_controls_of.h"
 #include "grid_cell_writer.h"
 #include "run_time_error.h"
+#include "shell_hourglass.h"
 #include "tdb_drop_down.h"
 #include "tdb_grid.h"
 #include "transformer.h"
@@ -168,6 +169,7 @@ void fldGridField::Igrid_SetColumns() try {
     if (!Ifield_GetEnabled())
         return;
     mHeads.SetColumns(mModel, *mTable);
+    mWidensForItems = true;
     QStringList captions;
     for (const GridModel::Column &column : mModel.columns())
         captions << column.caption;
@@ -201,6 +203,7 @@ GridColumnFacts fldGridField::ColumnAt(qint32 column) const {
 void fldGridField::Igrid_Rebind(bool /*Dynamic*/) try {
     if (mTable->Col() < 0)
         return;
+    const ShellHourglass hourglass(services().shell);
     mLists.ConvertEntriesToUI(mCells.DisplayArray(), mColumns);
     if (isTerminated())
         return;
@@ -209,6 +212,10 @@ void fldGridField::Igrid_Rebind(bool /*Dynamic*/) try {
         mTable->reBindKeepingSelection();
     else
         mTable->ReBind();
+    if (mWidensForItems && mCells.rows() > 0) {
+        mWidensForItems = false;
+        mHeads.widenForItems(*mTable, mLists);
+    }
     mCycle.noteStored();
 }
 ERROR_TAIL()

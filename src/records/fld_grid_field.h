@@ -151,4 +151,5 @@ class fldGridField final : public EditableField, public Igrid, public NavigatorG
     GridHeads mHeads;
     int mRecordOperations = 0; // record operations under way
     bool mRowInserted = false;
+    bool mWidensForItems = false; // the columns are new, and no row has been shown yet
 };

@@ -4,7 +4,6 @@
 #include "common_error_handler.h"
 #include "ifield.h"
 
-#include <QApplication>
 #include <QDrag>
 #include <QDropEvent>
 #include <QMimeData>
@@ -39,43 +38,14 @@ class CellCopy {
 } // namespace
 
 GridCellDrag::GridCellDrag(GridSurface &grid, const FieldServices &services)
-    : mGrid(grid), mErrors(services.errors), mCells(grid) {
-    QWidget &cells = grid.Table().CellsSurface();
-    cells.setAcceptDrops(true);
-    cells.installEventFilter(this);
+    : GridDrag(grid.Table().CellsSurface(), services), mGrid(grid), mCells(grid) {
+    watch(grid.Table().CellsSurface());
 }
 
-bool GridCellDrag::eventFilter(QObject *watched, QEvent *event) try {
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease:
-        return mouseEvent(static_cast<QMouseEvent &>(*event));
-    case QEvent::DragEnter:
-    case QEvent::DragMove:
-    case QEvent::Drop:
-        return targetEvent(static_cast<QDropEvent &>(*event));
-    default:
-        return QObject::eventFilter(watched, event);
-    }
-}
-ERROR_TAIL(false)
-
-// A press arms the drag. From then on no move of the button reaches the table: it would take the cursor along.
-bool GridCellDrag::mouseEvent(const QMouseEvent &event) {
-    const QPoint point = event.position().toPoint();
-    if (event.type() == QEvent::MouseMove) {
-        if (!mArmed)
-            return (event.buttons() & Qt::LeftButton) != 0;
-        if ((point - mPressedAt).manhattanLength() >= QApplication::startDragDistance())
-            start();
-        return true;
-    }
-    if (event.button() != Qt::LeftButton)
-        return false;
-    mArmed = event.type() == QEvent::MouseButtonPress ? cellAt(point) : std::nullopt;
-    mPressedAt = point;
-    return false;
+bool GridCellDrag::arms(const QMouseEvent &press) {
+    const auto cell = cellAt(press.position().toPoint());
+    mArmed = cell.value_or(GridCell());
+    return cell.has_value();
 }
 
 bool GridCellDrag::targetEvent(QDropEvent &event) {
@@ -119,9 +89,7 @@ bool GridCellDrag::TDBGrid1_DragCell(const GridCell &cell) {
 
 // The form may be closed while the drag is under way: nothing of it is touched afterwards.
 void GridCellDrag::start() {
-    const GridCell cell = *mArmed;
-    mArmed.reset();
-    if (!TDBGrid1_DragCell(cell))
+    if (!TDBGrid1_DragCell(mArmed))
         return;
     QWidget &cells = mGrid.Table().CellsSurface();
     auto *drag = new QDrag(&cells); // deletes itself when the drag has ended

@@ -1,18 +1,12 @@
 #pragma once
 
 #include "grid_cell_writer.h"
+#include "grid_drag.h"
 #include "grid_surface.h"
-#include "window_services.h"
-
-#include <QObject>
-#include <QPoint>
-
-class QDropEvent;
-class QMouseEvent;
 
 // Dragging one cell's value to a cell of a grid in the same window, by the left button. What is dropped counts as an
 // edit of the target cell. The drag never selects cells and never leaves the window.
-class GridCellDrag final : public QObject {
+class GridCellDrag final : public GridDrag {
     Q_OBJECT
   public:
     // Watches the grid's cells. Both outlive this.
@@ -23,20 +17,15 @@ class GridCellDrag final : public QObject {
     // The value of another cell is dropped at this point of the cells' surface.
     void TDBGrid1_DragDrop(const QString &value, const QPoint &point);
 
-  protected:
-    bool eventFilter(QObject *watched, QEvent *event) override;
-
   private:
-    bool mouseEvent(const QMouseEvent &event);
-    bool targetEvent(QDropEvent &event);
-    void start();
+    bool arms(const QMouseEvent &press) override;
+    void start() override;
+    bool targetEvent(QDropEvent &event) override;
     [[nodiscard]] std::optional<GridCell> cellAt(const QPoint &point) const;
     // False: refused, and the cell holds what it held.
     [[nodiscard]] bool writeCell(const GridCell &cell, const QString &value);
 
     GridSurface &mGrid;
-    ErrorReport &mErrors;
     GridCellWriter mCells;
-    std::optional<GridCell> mArmed;
-    QPoint mPressedAt; // pixels, on the cells' surface
+    GridCell mArmed; // the cell that was pressed
 };

@@ -15,12 +15,14 @@
 #include <algorithm>
 
 namespace {
+bool isNavigatorOf(const HostControl *control, const QString &gridId) {
+    const auto *navigator = dynamic_cast<const Inavigator *>(control->object());
+    return navigator != nullptr && navigator->Inavigator_GridID() == gridId;
+}
+
 bool addsRecordsOf(const HostControl *control, const QString &gridId) {
-    Ifield *const field = control->object();
-    const auto *navigator = dynamic_cast<const Inavigator *>(field);
-    const auto *buttons = dynamic_cast<const NavigatorButtons *>(field);
-    return navigator != nullptr && buttons != nullptr && navigator->Inavigator_GridID() == gridId &&
-           buttons->ButtonAdd();
+    const auto *buttons = dynamic_cast<const NavigatorButtons *>(control->object());
+    return buttons != nullptr && isNavigatorOf(control, gridId) && buttons->ButtonAdd();
 }
 } // namespace
 
@@ -129,7 +131,7 @@ void GridClipboard::replaceSelection(const QString &text) {
 QString GridClipboard::recordsToOverwrite() {
     const std::vector<qint32> rows = mGrid.Table().SelBookmarks();
     if (rows.empty())
-        return {};
+        return recordThatABlockStartsAt();
     const qint32 answer = mServices.boxes.TranslateMsgBox(
         QStringLiteral("Do you want to overwrite the selected records?"),
         MessageStyle::kYesNo | MessageStyle::kExclamation, QStringLiteral("Import Records"), QString());
@@ -139,6 +141,17 @@ QString GridClipboard::recordsToOverwrite() {
     for (const qint32 row : rows)
         records << QString::number(row + 1);
     return records.join(u'|');
+}
+
+// Where a navigator shows the current record the component knows it.
+QString GridClipboard::recordThatABlockStartsAt() const {
+    const auto row = mGrid.Table().Bookmark();
+    const HostControls *controls = mGrid.FormControls();
+    const bool known = controls != nullptr && std::ranges::any_of(*controls, [this](const HostControl *control) {
+                           return isNavigatorOf(control, mGrid.Design().ID);
+                       });
+    const bool asked = row && !known && RecordText::isBlock(mGrid, RecordText::withCrLf(mServices.clipboard.Text()));
+    return asked ? QString::number(*row + 1) : QString();
 }
 
 // What is being typed is written first, while its echo is still on.

@@ -43,6 +43,7 @@ class GridClipboard {
     [[nodiscard]] bool mayImport();
     void ImportRecords();
     [[nodiscard]] QString recordsToOverwrite();
+    [[nodiscard]] QString recordThatABlockStartsAt() const;
 
     GridSurface &mGrid;
     FieldServices mServices;

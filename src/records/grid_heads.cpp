@@ -1,11 +1,11 @@
 #include "grid_heads.h"
 
+#include "column_heads.h"
+#include "grid_lists.h"
 #include "string_utilities.h"
 #include "tdb_grid.h"
 #include "transformer.h"
 #include "translation.h"
-
-#include <QHeaderView>
 
 #include <algorithm>
 #include <cmath>
@@ -40,7 +40,7 @@ QString GridHeads::caption(const QString &uiid) const {
     return mServices.translation.NLSStr(label);
 }
 
-// The design's width, but room for the longest word of the caption and for the items of a short list.
+// The design's width, but room for the longest word of the caption.
 int GridHeads::pixelWidth(const TDBGrid &table, const ColumnDetails &details, const QString &caption) const {
     const QFontMetrics metrics = table.fontMetrics();
     if (details.width.count == 0)
@@ -48,21 +48,22 @@ int GridHeads::pixelWidth(const TDBGrid &table, const ColumnDetails &details, co
     int width = TwipScale::of(table).toPixels(details.width).count;
     for (const QString &word : caption.split(u' '))
         width = std::max(width, metrics.horizontalAdvance(word) + kCaptionMargin);
-    if (details.type == ColumnType::kCombo)
-        width = std::max(width, widestItem(metrics, details.uiid) + kCaptionMargin);
     return width;
 }
 
-int GridHeads::widestItem(const QFontMetrics &metrics, const QString &uiid) const {
-    XArrayDB items;
-    qint32 scope = 0;
-    if (!mGrid.Component().GetComboItems(uiid, 1, items, scope) || items.UpperBound(1) >= kShortList)
-        return 0;
+// Lists of many items would push the other columns out of sight.
+int GridHeads::widestItem(const QFontMetrics &metrics, const XArrayDB &items) {
     int width = 0;
-    for (qint32 row = 0; row <= items.UpperBound(1); ++row)
-        width =
-            std::max(width, metrics.horizontalAdvance(mServices.translation.NLSStr(items.Value(row, 0).toString())));
+    for (qint32 row = 0; row <= items.UpperBound(1) && items.UpperBound(1) < kShortList; ++row)
+        width = std::max(width, metrics.horizontalAdvance(items.Value(row, 0).toString()));
     return width;
+}
+
+void GridHeads::widenForItems(TDBGrid &table, const GridLists &lists) const {
+    for (qint32 column = 0; column < table.columnHeads().count(); ++column) {
+        if (const int item = widestItem(table.fontMetrics(), lists.convertedItems(column)); item > 0)
+            table.columnHeads().widen(column, item + kCaptionMargin);
+    }
 }
 
 void GridHeads::SetColumns(GridModel &model, TDBGrid &table) const {

@@ -6,6 +6,7 @@
 
 #include <QFontMetrics>
 
+class GridLists;
 class TDBGrid;
 
 // Makes the columns of a grid as the component labels them, and the heads of its report.
@@ -16,12 +17,14 @@ class GridHeads {
 
     // A column without a label is left off: the radio does not have the field.
     void SetColumns(GridModel &model, TDBGrid &table) const;
+    // Gives Combo columns room for the items of a short list, as the rows on show have brought them.
+    void widenForItems(TDBGrid &table, const GridLists &lists) const;
     // Each column's label, padded on the left to the field's width, behind a blank.
     [[nodiscard]] QStringList GetHeader() const;
 
   private:
     [[nodiscard]] QString caption(const QString &uiid) const;
-    [[nodiscard]] int widestItem(const QFontMetrics &metrics, const QString &uiid) const;
+    [[nodiscard]] static int widestItem(const QFontMetrics &metrics, const XArrayDB &items);
     [[nodiscard]] int pixelWidth(const TDBGrid &table, const ColumnDetails &details, const QString &caption) const;
 
     GridSurface &mGrid;

@@ -75,15 +75,22 @@ qint32 GridLists::comboPosition(const QString &uiid, const QVariant &value) cons
     return map.isEmpty() ? ValueText::toIntegerOr(value, -1) : ComboTransToUI(map, ValueText::of(value));
 }
 
-void GridLists::ConvertEntriesToUI(XArrayDB &array, const GridColumns &columns) const {
+XArrayDB GridLists::convertedItems(qint32 column) const {
+    const auto found = mConverted.find(column);
+    return found == mConverted.end() ? XArrayDB() : found->second;
+}
+
+void GridLists::ConvertEntriesToUI(XArrayDB &array, const GridColumns &columns) {
     for (qint32 column = 0; column <= array.UpperBound(2) && !mGrid.Terminated(); ++column) {
         if (columns.details(column).type == ColumnType::kCombo)
             convertColumn(array, column, columns.details(column).uiid);
     }
 }
 
-void GridLists::convertColumn(XArrayDB &array, qint32 column, const QString &uiid) const {
-    comboColumnToUI(
+void GridLists::convertColumn(XArrayDB &array, qint32 column, const QString &uiid) {
+    if (array.UpperBound(1) < 0)
+        return;
+    mConverted[column] = comboColumnToUI(
         array, column, mGrid.Component().GetIsComboIndex(uiid),
         [&](qint32 record, XArrayDB &items, qint32 &scope) { askForComboItems(uiid, record, items, scope); });
 }

@@ -6,6 +6,8 @@
 
 #include <QHash>
 
+#include <map>
+
 // The lists behind a grid's cells: the items of Combo and ID Tracker columns, and the ways between stored values,
 // positions and item texts. Lists are asked for anew each time; they may differ from record to record.
 class GridLists {
@@ -30,13 +32,16 @@ class GridLists {
     [[nodiscard]] qint32 comboPosition(const QString &uiid, const QVariant &value) const;
 
     // Replaces the stored values of Combo columns by item texts; "Undefined" where no item is meant. Row 0 is record 1.
-    void ConvertEntriesToUI(XArrayDB &array, const GridColumns &columns) const;
+    void ConvertEntriesToUI(XArrayDB &array, const GridColumns &columns);
+    // The items of a Combo column, shown texts, as the last conversion has got them; empty before there was a row.
+    [[nodiscard]] XArrayDB convertedItems(qint32 column) const;
 
   private:
     void askForComboItems(const QString &uiid, qint32 record, XArrayDB &items, qint32 &scope) const;
-    void convertColumn(XArrayDB &array, qint32 column, const QString &uiid) const;
+    void convertColumn(XArrayDB &array, qint32 column, const QString &uiid);
 
     GridSurface &mGrid;
     FieldServices mServices;
     QHash<QString, QString> mTranslatedNames; // by the translated text
+    std::map<qint32, XArrayDB> mConverted;    // by column
 };

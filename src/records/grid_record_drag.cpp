@@ -6,7 +6,6 @@
 #include "igrid.h"
 #include "record_text.h"
 
-#include <QApplication>
 #include <QDrag>
 #include <QDropEvent>
 #include <QMimeData>
@@ -16,45 +15,13 @@
 #include <algorithm>
 
 GridRecordDrag::GridRecordDrag(GridSurface &grid, const FieldServices &services)
-    : mGrid(grid), mErrors(services.errors) {
-    for (QWidget *surface : {&grid.Table().CellsSurface(), &grid.Table().HeadsSurface()}) {
-        surface->setAcceptDrops(true);
-        surface->installEventFilter(this);
-    }
+    : GridDrag(grid.Table().HeadsSurface(), services), mGrid(grid) {
+    watch(grid.Table().CellsSurface());
+    watch(grid.Table().HeadsSurface());
 }
 
-bool GridRecordDrag::eventFilter(QObject *watched, QEvent *event) try {
-    switch (event->type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseMove:
-    case QEvent::MouseButtonRelease:
-        return watched == &mGrid.Table().HeadsSurface() && headEvent(static_cast<QMouseEvent &>(*event));
-    case QEvent::DragEnter:
-    case QEvent::DragMove:
-    case QEvent::Drop:
-        return targetEvent(static_cast<QDropEvent &>(*event));
-    default:
-        return QObject::eventFilter(watched, event);
-    }
-}
-ERROR_TAIL(false)
-
-bool GridRecordDrag::headEvent(const QMouseEvent &event) {
-    const QPoint point = event.position().toPoint();
-    if (event.type() != QEvent::MouseMove) {
-        mPressedAt = arms(event) ? std::optional(point) : std::nullopt;
-        return false;
-    }
-    if (!mPressedAt)
-        return false;
-    if ((point - *mPressedAt).manhattanLength() >= QApplication::startDragDistance())
-        start();
-    return true;
-}
-
-bool GridRecordDrag::arms(const QMouseEvent &press) const {
-    if (press.type() != QEvent::MouseButtonPress || press.button() != Qt::LeftButton ||
-        press.modifiers() != Qt::NoModifier)
+bool GridRecordDrag::arms(const QMouseEvent &press) {
+    if (press.modifiers() != Qt::NoModifier)
         return false;
     const auto row = mGrid.Table().RowContaining(press.position().toPoint().y());
     const std::vector<qint32> selected = mGrid.Table().SelBookmarks();
@@ -62,7 +29,6 @@ bool GridRecordDrag::arms(const QMouseEvent &press) const {
 }
 
 void GridRecordDrag::start() {
-    mPressedAt.reset();
     auto *drag = new QDrag(&mGrid.Table().HeadsSurface()); // deletes itself when the drag has ended
     drag->setMimeData(TDBGrid1_OLEStartDrag().release());
     drag->exec(Qt::MoveAction, Qt::MoveAction);

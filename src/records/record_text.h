@@ -12,6 +12,8 @@ namespace RecordText {
 [[nodiscard]] QString withCrLf(const QString &text);
 // Several values: the text has a line end or a tab. Expects CR LF.
 [[nodiscard]] bool isRecords(const QString &text);
+// Cells without heads, in lines narrower than the grid: the component fills them in from the current column on.
+[[nodiscard]] bool isBlock(const GridSurface &grid, const QString &text);
 // A first line of all captions, then the rows as they are shown.
 [[nodiscard]] QString of(const GridSurface &grid, const std::vector<qint32> &rows);
 } // namespace RecordText

@@ -4,6 +4,8 @@
 
 #include <QMouseEvent>
 
+#include <utility>
+
 RowHeads::RowHeads(const RowBlock &block, QWidget *parent) : QHeaderView(Qt::Vertical, parent), mBlock(block) {
     setSectionResizeMode(QHeaderView::Fixed);
     setHighlightSections(true);
@@ -13,15 +15,18 @@ RowHeads::RowHeads(const RowBlock &block, QWidget *parent) : QHeaderView(Qt::Ver
 void RowHeads::mousePressEvent(QMouseEvent *event) {
     const int row = logicalIndexAt(event->position().toPoint());
     mExtending = false;
+    mClicked = -1;
     if (event->button() != Qt::LeftButton || row < 0)
         return;
     if ((event->modifiers() & Qt::ShiftModifier) != 0)
         Q_EMIT blockAsked(mBlock.extendedTo(row));
     else if ((event->modifiers() & Qt::ControlModifier) != 0)
         Q_EMIT blockAsked(mBlock.with(row));
+    else if (mBlock.contains(row))
+        mClicked = row;
     else
         Q_EMIT blockAsked(RowBlock::only(row));
-    mExtending = mBlock.contains(row);
+    mExtending = mClicked < 0 && mBlock.contains(row);
 }
 
 void RowHeads::mouseMoveEvent(QMouseEvent *event) {
@@ -30,4 +35,8 @@ void RowHeads::mouseMoveEvent(QMouseEvent *event) {
         Q_EMIT blockAsked(mBlock.extendedTo(row));
 }
 
-void RowHeads::mouseReleaseEvent(QMouseEvent * /*event*/) { mExtending = false; }
+void RowHeads::mouseReleaseEvent(QMouseEvent * /*event*/) {
+    mExtending = false;
+    if (const int row = std::exchange(mClicked, -1); row >= 0)
+        Q_EMIT blockAsked(RowBlock::only(row));
+}

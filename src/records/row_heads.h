@@ -4,8 +4,8 @@
 
 class RowBlock;
 
-// The heads of a grid's rows. A click selects the row, Shift or a drag over the heads extends the block, Ctrl adds an
-// adjoining row.
+// The heads of a grid's rows. A press selects the row, Shift or a drag over the heads extends the block, Ctrl adds an
+// adjoining row. A press on a selected head may begin a drag of the block, so it alone is selected at the release.
 class RowHeads final : public QHeaderView {
     Q_OBJECT
   public:
@@ -23,4 +23,5 @@ class RowHeads final : public QHeaderView {
   private:
     const RowBlock &mBlock;
     bool mExtending = false;
+    int mClicked = -1; // a selected row whose head is held down
 };

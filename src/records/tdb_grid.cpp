@@ -3,6 +3,7 @@
 #include "cell_editor.h"
 #include "cell_painter.h"
 #include "cell_tips.h"
+#include "column_heads.h"
 #include "common_error_handler.h"
 #include "grid_cells.h"
 #include "grid_model.h"
@@ -30,7 +31,7 @@ bool isTextCommand(const QKeyEvent &key) {
 } // namespace
 
 TDBGrid::TDBGrid(GridModel &model, GridCells &cells, TableEvents &events, ErrorReport &errors, QWidget *parent)
-    : QTableView(parent), mModel(model), mCells(cells), mEvents(events), mErrors(errors), mKeys(*this),
+    : QTableView(parent), mModel(model), mCells(cells), mEvents(events), mErrors(errors), mKeys(*this), mMouse(*this),
       mEditor(new CellEditor(*viewport(), errors)), mDropDown(new TDBDropDown(this)) {
     mEditor->setParent(this);
     setModel(&model);
@@ -53,15 +54,13 @@ void TDBGrid::setUpHeads() {
     setVerticalHeader(rows);
     rows->show();
     connect(rows, &RowHeads::blockAsked, this, &TDBGrid::selectBlock);
-    QHeaderView &columns = *horizontalHeader();
-    columns.setHighlightSections(false);
-    columns.setSectionsClickable(true);
-    columns.setDefaultAlignment(
-        Qt::Alignment::fromInt(int(Qt::AlignLeft) | int(Qt::AlignVCenter) | int(Qt::TextWordWrap)));
+    auto *columns = new ColumnHeads(this);
+    setHorizontalHeader(columns);
+    columns->show();
     // A press on a head sorts; it selects no column.
-    disconnect(&columns, SIGNAL(sectionPressed(int)), this, SLOT(selectColumn(int)));
-    disconnect(&columns, SIGNAL(sectionEntered(int)), this, nullptr);
-    connect(&columns, &QHeaderView::sectionClicked, this, &TDBGrid::clickHead);
+    disconnect(columns, SIGNAL(sectionPressed(int)), this, SLOT(selectColumn(int)));
+    disconnect(columns, SIGNAL(sectionEntered(int)), this, nullptr);
+    connect(columns, &QHeaderView::sectionClicked, this, &TDBGrid::clickHead);
 }
 
 void TDBGrid::clickHead(int column) { mEvents.HeadClick(column); }
@@ -182,29 +181,12 @@ void TDBGrid::showBlock() {
 
 // The rows.
 
+ColumnHeads &TDBGrid::columnHeads() const { return static_cast<ColumnHeads &>(*horizontalHeader()); }
+
 void TDBGrid::setColumnWidths(const std::vector<int> &widths) {
-    QHeaderView &heads = *horizontalHeader();
-    heads.setStretchLastSection(false);
-    for (std::size_t column = 0; column < widths.size(); ++column)
-        heads.resizeSection(int(column), std::max(widths[column], heads.minimumSectionSize()));
-    heads.setStretchLastSection(!widths.empty() && widths.back() == 0);
-    fitHeads();
+    columnHeads().setWidths(widths);
     mCol = std::min(std::max(mCol, 0), int(widths.size()) - 1);
     mBlock = {};
-}
-
-// A caption that is too wide for its column breaks into two lines.
-void TDBGrid::fitHeads() {
-    constexpr int kMargin = 4;
-    QHeaderView &heads = *horizontalHeader();
-    const int line = fontMetrics().height();
-    int height = line;
-    for (int column = 0; column < mModel.columnCount(); ++column) {
-        const QRect room(0, 0, heads.sectionSize(column) - 2 * kMargin, 2 * line);
-        const QString caption = mModel.headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        height = std::max(height, fontMetrics().boundingRect(room, Qt::TextWordWrap, caption).height());
-    }
-    heads.setFixedHeight(std::min(height, 2 * line) + kMargin);
 }
 
 void TDBGrid::ReBind() { bind({}); }
@@ -414,23 +396,7 @@ void TDBGrid::inputMethodEvent(QInputMethodEvent *event) {
         QCoreApplication::sendEvent(&mEditor->box(), event);
 }
 
-void TDBGrid::mousePressEvent(QMouseEvent *event) try {
-    const QModelIndex index = indexAt(event->position().toPoint());
-    if (!index.isValid())
-        return;
-    const GridCell cell{index.row(), index.column()};
-    const bool wasCurrent = cell == currentCell();
-    const bool keepsBlock = event->button() == Qt::RightButton && mBlock.contains(cell.row);
-    if (keepsBlock || !MoveTo(cell))
-        return;
-    if (event->button() != Qt::LeftButton)
-        return;
-    RemoveSelBookmarks();
-    if (isCheckNow())
-        mEvents.Toggle();
-    else if (wasCurrent && hasListNow() && CellPainter::buttonRect(CellRect()).contains(event->position().toPoint()))
-        openDropDown();
-}
+void TDBGrid::mousePressEvent(QMouseEvent *event) try { mMouse.press(*event); }
 ERROR_TAIL()
 
 // No selecting of cells by a drag.
@@ -438,17 +404,7 @@ void TDBGrid::mouseMoveEvent(QMouseEvent * /*event*/) {}
 
 void TDBGrid::mouseReleaseEvent(QMouseEvent * /*event*/) {}
 
-void TDBGrid::mouseDoubleClickEvent(QMouseEvent *event) try {
-    const QModelIndex index = indexAt(event->position().toPoint());
-    if (!index.isValid() || event->button() != Qt::LeftButton || !MoveTo({index.row(), index.column()}))
-        return;
-    if (isCheckNow())
-        mEvents.Toggle();
-    else if (hasListNow())
-        openDropDown();
-    else
-        StartEdit();
-}
+void TDBGrid::mouseDoubleClickEvent(QMouseEvent *event) try { mMouse.doubleClick(*event); }
 ERROR_TAIL()
 
 void TDBGrid::focusInEvent(QFocusEvent *event) try {

@@ -3,10 +3,12 @@
 #include "grid_surface.h"
 #include "row_block.h"
 #include "table_keys.h"
+#include "table_mouse.h"
 
 #include <QTableView>
 
 class CellEditor;
+class ColumnHeads;
 class ErrorReport;
 class GridCells;
 class GridModel;
@@ -24,6 +26,7 @@ class TDBGrid final : public QTableView, public GridTable {
 
     [[nodiscard]] CellEditor &editor() const { return *mEditor; }
     [[nodiscard]] TDBDropDown &dropDown() const { return *mDropDown; }
+    [[nodiscard]] ColumnHeads &columnHeads() const;
     // Columns of these widths in pixels; 0 for the last: what is left. The cursor keeps its row and column.
     void setColumnWidths(const std::vector<int> &widths);
     // ReBind that keeps the selection as far as its rows still exist.
@@ -39,6 +42,8 @@ class TDBGrid final : public QTableView, public GridTable {
     // A list belongs to the current cell, and it can be edited.
     [[nodiscard]] bool hasListNow() const;
     [[nodiscard]] bool isCheckNow() const;
+    // As part of a whole row.
+    [[nodiscard]] bool isSelected(qint32 row) const { return mBlock.contains(row); }
 
     [[nodiscard]] std::optional<qint32> Bookmark() const override;
     void SetBookmark(qint32 row) override;
@@ -93,7 +98,6 @@ class TDBGrid final : public QTableView, public GridTable {
 
   private:
     void setUpHeads();
-    void fitHeads();
     void clickHead(int column);
     void tellEdited();
     void takeChoice(const QString &text);
@@ -112,6 +116,7 @@ class TDBGrid final : public QTableView, public GridTable {
     TableEvents &mEvents;
     ErrorReport &mErrors;
     TableKeys mKeys;
+    TableMouse mMouse;
     CellEditor *mEditor;    // owned by this widget
     TDBDropDown *mDropDown; // owned by this widget
     RowBlock mBlock;

@@ -228,19 +228,32 @@ void tst_grid_clipboard::aTranslatedNameReachesTheSource() {
 
 void tst_grid_clipboard::recordsGoToTheComponent_data() {
     QTest::addColumn<QString>("text");
-    QTest::newRow("CR LF") << QStringLiteral("1\r\n2\r\n");
-    QTest::newRow("LF alone") << QStringLiteral("1\n2");
-    QTest::newRow("a tab is enough") << QStringLiteral("1\t2");
+    QTest::addColumn<bool>("navigator");
+    QTest::addColumn<QString>("records");
+    QTest::newRow("a column") << QStringLiteral("1\r\n2\r\n") << false << "2";
+    QTest::newRow("LF alone") << QStringLiteral("1\n2") << false << "2";
+    QTest::newRow("a tab is enough") << QStringLiteral("1\t2") << false << "2";
+    QTest::newRow("a column, the component knows the record") << QStringLiteral("1\r\n2\r\n") << true << "";
+    QTest::newRow("whole rows") << QStringLiteral("1\ta\tFast\tNorth\r\n") << false << "";
+    QTest::newRow("cells under heads") << QStringLiteral("No.\tName\r\n1\ta\r\n") << false << "";
 }
 
 void tst_grid_clipboard::recordsGoToTheComponent() {
     QFETCH(const QString, text);
+    QFETCH(const QString, records);
+    QFETCH(const bool, navigator);
     Bench bench;
+    ButtonNavigator bound(bench.grid.log, QStringLiteral("FreqID"), true);
+    if (navigator)
+        bench.grid.controls = {&bound};
+    bench.grid.bookmark = 1;
     bench.put(qUtf8Printable(text));
     bench.clipboard.mnuPaste_Click();
-    QCOMPARE(bench.grid.log.take(), lines({"BeginBatchUpdate()", "raise SetProviderUpdateUIOnFieldChange(false)",
-                                           "raise ImportRecordByPaste(Nr|Name|Kind|Net, )", "Bookmark(1)", "SetFocus()",
-                                           "raise SetProviderUpdateUIOnFieldChange(true)", "EndBatchUpdate()"}));
+    QCOMPARE(
+        bench.grid.log.take(),
+        lines({"BeginBatchUpdate()", "raise SetProviderUpdateUIOnFieldChange(false)"}) +
+            QStringList(QStringLiteral("raise ImportRecordByPaste(Nr|Name|Kind|Net, %1)").arg(records)) +
+            lines({"Bookmark(1)", "SetFocus()", "raise SetProviderUpdateUIOnFieldChange(true)", "EndBatchUpdate()"}));
     QCOMPARE(bench.taken(), text);
 }
 

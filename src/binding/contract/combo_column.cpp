@@ -27,9 +27,7 @@ qint32 positionIn(const std::vector<double> &numbers, const QVariant &value) {
 }
 } // namespace
 
-void comboColumnToUI(XArrayDB &rows, qint32 column, const QString &map, const AskForComboItems &askForItems) {
-    if (rows.UpperBound(1) < 0)
-        return;
+XArrayDB comboColumnToUI(XArrayDB &rows, qint32 column, const QString &map, const AskForComboItems &askForItems) {
     const std::vector<double> numbers = storedNumbers(map);
     XArrayDB items;
     qint32 scope = kDiffersByRecord;
@@ -40,4 +38,5 @@ void comboColumnToUI(XArrayDB &rows, qint32 column, const QString &map, const As
         const bool meant = position >= 0 && position <= items.UpperBound(1);
         rows.SetValue(row, column, meant ? items.Value(position, 0) : QVariant(ValueText::undefined()));
     }
+    return items;
 }

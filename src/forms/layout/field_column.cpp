@@ -103,7 +103,7 @@ std::vector<Twips> FieldColumn::rowHeights() const {
     for (std::size_t i = 0; i < mRows.size(); ++i) {
         const int lines = captionLines(mRows[i], mRowWidths[i]);
         const Twips needed{lines * mText.lineHeight().count + kCaptionSpacing};
-        heights.push_back(lines == 1 ? kRowHeight : std::max(kRowHeight, needed));
+        heights.push_back(lines == 1 ? mText.rowHeight() : std::max(mText.rowHeight(), needed));
     }
     return heights;
 }

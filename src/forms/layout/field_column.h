@@ -22,8 +22,6 @@ class FieldColumn {
     // heights: one for each row, or more; at least rowHeights().
     [[nodiscard]] Arrangement arrange(Twips left, Twips top, std::span<const Twips> heights) const;
 
-    static constexpr Twips kRowHeight{405}; // whole pixels, so that rows never touch
-
   private:
     [[nodiscard]] double line() const;
     [[nodiscard]] double widthWith(const FieldRow &row, double line) const;

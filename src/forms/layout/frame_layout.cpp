@@ -69,7 +69,7 @@ void FrameLayout::addFields(Arrangement &result, Twips left, Twips width, Column
     const Twips each{(width.count - qint32(count - 1) * kColumnGap.count) / qint32(count)};
     const std::size_t perColumn = (mRows.size() + count - 1) / count;
     std::vector<FieldColumn> parts;
-    std::vector<Twips> heights(perColumn, FieldColumn::kRowHeight);
+    std::vector<Twips> heights(perColumn, mText.rowHeight());
     for (std::size_t from = 0; from < mRows.size(); from += perColumn) {
         const auto first = mRows.begin() + std::ptrdiff_t(from);
         const auto last = mRows.begin() + std::ptrdiff_t(std::min(from + perColumn, mRows.size()));
@@ -104,7 +104,7 @@ void FrameLayout::addGrids(Arrangement &result, Twips left, Twips width, Twips b
     for (std::size_t i = 0; i < mGrids.size(); ++i) {
         const qint32 share = (bottom - result.height).count / qint32(mGrids.size() - i);
         const Twips height = std::max(kLeastGridHeight, Twips{share});
-        result.add(*mGrids[i], left, result.height, width, height);
+        result.addGrid(*mGrids[i], left, result.height, width, height);
         result.height = result.height + height;
     }
 }

@@ -134,7 +134,7 @@ Arrangement HeadingTable::arrange(Twips left, Twips top) const {
         fields.emplace_back(mText, mColumns[i].rows, mWidths[i] - followersWidth(mColumns[i]),
                             FieldColumn::Fill::Whole);
         const std::vector<Twips> own = fields.back().rowHeights();
-        heights.resize(std::max(heights.size(), own.size()), FieldColumn::kRowHeight);
+        heights.resize(std::max(heights.size(), own.size()), mText.rowHeight());
         std::ranges::transform(own, heights, heights.begin(), [](Twips a, Twips b) { return std::max(a, b); });
     }
     Arrangement result;

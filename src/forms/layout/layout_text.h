@@ -17,6 +17,8 @@ class LayoutText {
     // Of one line of a frame's or heading's title, which stands in a bolder font.
     [[nodiscard]] virtual Twips titleWidth(const QString &text) const = 0;
     [[nodiscard]] virtual Twips lineHeight() const = 0;
+    // From one field to the next below it: whole pixels, so that rows never touch.
+    [[nodiscard]] virtual Twips rowHeight() const { return {405}; }
     // Of the widest item of a combo's list; 0 for other controls, and where it is not known.
     [[nodiscard]] virtual Twips widestItem(const ControlDefinition & /*combo*/) const { return {}; }
 };

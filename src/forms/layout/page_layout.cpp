@@ -16,6 +16,22 @@ constexpr int kManyRowsAboveHeadings = 3;
 constexpr Twips kWideFrame{6000};
 constexpr std::size_t kManyFrames = 4;
 
+// The same texts in rows that leave no air between the fields, for the sake of a grid below them.
+class DenseText final : public LayoutText {
+  public:
+    explicit DenseText(const LayoutText &text) : mText(text) {}
+
+    [[nodiscard]] QString caption(const ControlDefinition &control) const override { return mText.caption(control); }
+    [[nodiscard]] Twips width(const QString &text) const override { return mText.width(text); }
+    [[nodiscard]] Twips titleWidth(const QString &text) const override { return mText.titleWidth(text); }
+    [[nodiscard]] Twips lineHeight() const override { return mText.lineHeight(); }
+    [[nodiscard]] Twips widestItem(const ControlDefinition &combo) const override { return mText.widestItem(combo); }
+    [[nodiscard]] Twips rowHeight() const override { return {345}; }
+
+  private:
+    const LayoutText &mText;
+};
+
 bool isGrid(const ControlDefinition *control) { return control->typeName == u"fldGridField"; }
 
 // A control of a stack before its height is known.
@@ -36,9 +52,10 @@ class StackedControl {
     // extra: what it gets beyond its height.
     void addTo(Arrangement &result, Twips left, Twips top, Twips extra) const {
         const Twips own = height() + extra;
+        if (!mFrame)
+            return result.addGrid(mControl, left, top, mWidth, own);
         result.add(mControl, left, top, mWidth, own);
-        if (mFrame)
-            result.take(inside(own));
+        result.take(inside(own));
     }
 
   private:
@@ -57,13 +74,14 @@ Arrangement PageLayout::arrange(Controls controls) const {
     const bool onlyGrids = std::ranges::all_of(controls, isGrid);
     if (onlyGrids && controls.size() > 1)
         return matrix(controls);
+    const DenseText dense(mText);
     Arrangement best;
     double least = std::numeric_limits<double>::max();
     for (const Plan &plan : plans(controls)) {
         const double habit = habitPrice(plan, controls.size());
         if (habit >= least)
             continue;
-        Arrangement result = arrangeBy(plan, controls);
+        Arrangement result = PageLayout(plan.dense ? dense : mText, mArea).arrangeBy(plan, controls);
         const double total = habit + price(result);
         if (total < least) {
             best = std::move(result);
@@ -75,8 +93,11 @@ Arrangement PageLayout::arrange(Controls controls) const {
 
 std::vector<PageLayout::Plan> PageLayout::plans(Controls controls) {
     std::vector<Plan> result{{controls.size(), false}, {controls.size(), true}};
-    if (std::ranges::any_of(controls, isGrid))
+    if (std::ranges::any_of(controls, isGrid)) {
+        for (const bool twoFieldColumns : {false, true})
+            result.push_back({controls.size(), twoFieldColumns, 1, true});
         return result;
+    }
     for (const double share : {0.5, 0.44, 0.56}) {
         for (const bool twoFieldColumns : {false, true}) {
             for (std::size_t from = 1; from < controls.size(); ++from)
@@ -91,13 +112,15 @@ double PageLayout::habitPrice(const Plan &plan, std::size_t count) {
     const bool twoColumns = plan.secondColumnFrom < count;
     double price = twoColumns != (count >= kManyFrames) ? 400 : 0;
     price += plan.twoFieldColumns ? 200 : 0;
+    price += plan.dense ? 150 : 0;
     return price + (twoColumns && plan.firstShare != 0.5 ? 100 : 0);
 }
 
-// Too much height weighs more than anything else, then narrow editing parts and broken captions.
+// Too much height weighs more than anything else, then grids without room, narrow editing parts and broken captions.
 double PageLayout::price(const Arrangement &result) const {
     const double excess = std::max(0, (result.height - mArea.height).count);
-    return excess * 1000.0 + 60.0 * result.narrowBoxes + 40.0 * result.wrappedCaptions + result.height.count / 100.0;
+    return excess * 1000.0 + result.missingRows.count + 60.0 * result.narrowBoxes + 40.0 * result.wrappedCaptions +
+           result.height.count / 100.0;
 }
 
 Arrangement PageLayout::arrangeBy(const Plan &plan, Controls controls) const {

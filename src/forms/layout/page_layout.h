@@ -7,7 +7,7 @@
 #include <vector>
 
 // The frames and grids of a page, or of a form without pages, in an area: frames below each other or in two columns,
-// whichever needs no more height than there is, breaks fewest captions and leaves the editing parts room.
+// whichever needs no more height than there is, leaves grids and editing parts room and breaks fewest captions.
 class PageLayout {
   public:
     PageLayout(const LayoutText &text, TwipRect area);
@@ -22,6 +22,7 @@ class PageLayout {
         // In frames with many fields; where the frames themselves stand in two columns, only above headings.
         bool twoFieldColumns;
         double firstShare = 1; // of the first column in the width
+        bool dense = false;    // fields close to each other
     };
     using Controls = std::span<const ControlDefinition *const>;
 

@@ -81,9 +81,12 @@ std::optional<std::vector<qint32>> ImportOperations::targets(const Grid &grid, c
         if (isNew && record >= 1 && record <= grid.count && qint32(records.size()) < rows)
             records.push_back(record);
     }
-    if (!records.empty() || !pasted.isBlock || grid.count == 0)
+    const bool allNamed = records.size() > 1 || (!records.empty() && rows == 1);
+    if (allNamed || !pasted.isBlock || grid.count == 0)
         return records;
-    const qint32 first = std::max(mState.positions().position(grid.structure->index), 1);
+    const qint32 first =
+        records.empty() ? std::max(mState.positions().position(grid.structure->index), 1) : records.front();
+    records.clear();
     const qint32 last = std::min(first + rows - 1, grid.count);
     const bool goesOn = mState.events.ask(
         QStringLiteral("The rows fill the columns from %0:S on, in the records %1:S to %2:S. What these hold there is "

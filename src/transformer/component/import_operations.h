@@ -14,7 +14,8 @@ class ImportOperations {
         : mState(state), mFields(fields), mSettings(settings), mNotifier(state, fields) {}
 
     // uiidList: the grid's columns, joined by "|". selectedRecords: record numbers likewise, which the first rows
-    // overwrite; the others become new records. False when nothing was done.
+    // overwrite; the others become new records. A block of several lines fills down from a single selected record, and
+    // without one from the stored position, after a question. False when nothing was done.
     bool import(const QString &uiidList, const QString &text, const QString &selectedRecords);
 
   private:
