@@ -88,9 +88,8 @@ class DocumentsProgressTest : public QObject {
     void closingAsksForAnAbort_data();
     void closingAsksForAnAbort();
     void enterDoesNotAbort();
-    void anOperationThatNeverEndedLeavesNoWindow();
-    void anErrorLeavesNoWindow();
-    void aFailedLoadHidesTheWindow();
+    void noWindowIsLeftBehind_data();
+    void noWindowIsLeftBehind();
     void theWindowKeepsItsSize();
 };
 
@@ -316,31 +315,33 @@ void DocumentsProgressTest::enterDoesNotAbort() {
     QCOMPARE(bench.operations, 1);
 }
 
-void DocumentsProgressTest::anOperationThatNeverEndedLeavesNoWindow() {
-    ProgressBench bench(InterrogationType::kProgram);
-    bench.run(kProgramRadio, [&] { bench.start(5, "Programming Radio"); });
-    QCOMPARE(bench.operations, 1);
-    QVERIFY2(!bench.window.isVisible(), "a window that nothing can close");
+// One that nothing could close.
+void DocumentsProgressTest::noWindowIsLeftBehind_data() {
+    QTest::addColumn<bool>("ends");
+    QTest::addColumn<bool>("raises");
+    QTest::addColumn<bool>("loadFailed");
+    QTest::newRow("by an operation that never ends its phase") << false << false << false;
+    QTest::newRow("by an error") << false << true << false;
+    QTest::newRow("by a component that failed to load") << true << false << true;
 }
 
-void DocumentsProgressTest::anErrorLeavesNoWindow() {
-    ProgressBench bench(InterrogationType::kProgram);
-    bench.services.errorSink.expectReport();
-    bench.run(kProgramRadio, [&] {
-        bench.start(5, "Programming Radio");
-        throw RunTimeError(ErrorNumber::kBadArgument, QString(), QStringLiteral("broken"));
-    });
-    QCOMPARE(bench.services.errorSink.reports().size(), 1);
-    QVERIFY2(!bench.window.isVisible(), "a window that nothing can close");
-}
-
-void DocumentsProgressTest::aFailedLoadHidesTheWindow() {
+void DocumentsProgressTest::noWindowIsLeftBehind() {
+    QFETCH(bool, ends);
+    QFETCH(bool, raises);
+    QFETCH(bool, loadFailed);
     ProgressBench bench(InterrogationType::kInterrogate);
-    bench.component.when(QStringLiteral("GetLoadFailed")).answers(true);
+    bench.component.when(QStringLiteral("GetLoadFailed")).answers(loadFailed);
+    if (raises)
+        bench.services.errorSink.expectReport();
     bench.run(kInterrogateRadio, [&] {
         bench.start(5, "Radio Interrogation");
-        bench.end(false);
+        if (ends)
+            bench.end(false);
+        if (raises)
+            throw RunTimeError(ErrorNumber::kBadArgument, QString(), QStringLiteral("broken"));
     });
+    QCOMPARE(bench.operations, 1);
+    QCOMPARE(bench.services.errorSink.reports().size(), raises ? 1 : 0);
     QVERIFY(!bench.window.isVisible());
 }
 

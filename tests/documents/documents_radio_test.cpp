@@ -9,16 +9,11 @@
 #include <QTest>
 
 namespace {
-const QString kQuestion =
-    QStringLiteral("This form has outstanding changes.  If you proceed these changes may be lost.  "
-                   "Do you wish to proceed?");
-
 struct Case {
     const char *fault;
     InterrogationType type;
     bool formLoaded = true;
     bool formDirty = false;
-    qint32 answer = 0; // of the form's question; 0: it must not come
     bool savesForm = true;
     const char *model = "KX4600";
     const char *refuses = "";
@@ -40,27 +35,10 @@ const Case kCases[] = {
      .formLoaded = false,
      .formDirty = true,
      .steps = "shell.FocusFormTree(); shell.SaveForm(); window(1)"},
-    {.fault = "No keeps the form from a read",
-     .type = InterrogationType::kRead,
-     .formDirty = true,
-     .answer = MessageAnswer::kNo},
-    {.fault = "Yes goes on to the read",
-     .type = InterrogationType::kRead,
-     .formDirty = true,
-     .answer = MessageAnswer::kYes,
-     .steps = "shell.FocusFormTree(); shell.SaveForm(); window(1)"},
-    {.fault = "a form that cannot be saved stops the read",
-     .type = InterrogationType::kRead,
-     .savesForm = false,
-     .steps = "shell.FocusFormTree(); shell.SaveForm()"},
     {.fault = "a program run saves the form without a question",
      .type = InterrogationType::kProgram,
      .formDirty = true,
      .steps = "shell.SaveForm(); shell.SetTierNodeGreenTick(true); window(2)"},
-    {.fault = "a form that cannot be saved is never programmed",
-     .type = InterrogationType::kProgram,
-     .savesForm = false,
-     .steps = "shell.SaveForm()"},
     {.fault = "an unknown operation does nothing", .type = InterrogationType(3)},
     {.fault = "a missing component is named",
      .type = InterrogationType::kInterrogate,
@@ -134,8 +112,6 @@ void DocumentsRadioTest::everyOperationInEveryState() {
     bench.component.when(QStringLiteral("GetLoadFailed")).answers(row->loadFailed);
     if (*row->refuses != '\0')
         bench.component.when(QString::fromLatin1(row->refuses)).refuses();
-    if (row->answer != 0)
-        bench.services.boxes.expect(kQuestion, row->answer);
     bench.radio.TalkToRadio(row->type);
     QCOMPARE(bench.steps().join(QStringLiteral("; ")), QString::fromLatin1(row->steps));
 }
