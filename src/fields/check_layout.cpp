@@ -15,7 +15,9 @@ Span layOut(const Request &request) {
         return {{0},
                 request.factor == 0.0 ? request.width - kMargin
                                       : std::min(captionSpace + kBoxBehindCaption, request.width)};
-    const Twips left = std::max(captionSpace - kMargin - request.captionWidth - kMargin, Twips{0});
+    // A factor close to 1 leaves the box no room behind the caption: both move to the left.
+    const Twips last = request.width - request.captionWidth - kBoxSpace;
+    const Twips left = std::max(std::min(captionSpace - kMargin - request.captionWidth - kMargin, last), Twips{0});
     const bool narrow = request.factor != 0.0 && captionSpace < request.captionWidth;
     return {left, narrow ? captionSpace + kMargin : request.captionWidth + kBoxSpace};
 }

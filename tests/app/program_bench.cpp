@@ -8,17 +8,28 @@
 #include "value_text.h"
 #include "window_input.h"
 
+#include <QDir>
+#include <QFile>
 #include <QToolButton>
 #include <QTreeWidget>
 
 namespace {
 constexpr int kWidth = 1024;
 constexpr int kHeight = 768;
+
+void writeLanguage(const QString &folder, qint32 language) {
+    QDir().mkpath(folder);
+    QFile settings(folder + QStringLiteral("/settings.ini"));
+    if (!settings.open(QIODevice::WriteOnly))
+        qFatal("no settings could be written");
+    settings.write("[General]\nLanguage=" + QByteArray::number(language) + '\n');
+}
 } // namespace
 
-ProgramBench::ProgramBench() {
+ProgramBench::ProgramBench(qint32 language) {
     for (const char *name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
         qputenv(name, (mHome.path() + u'/' + QLatin1String(name)).toUtf8());
+    writeLanguage(mHome.path() + QStringLiteral("/XDG_CONFIG_HOME/KX4600"), language);
     mProgram = std::make_unique<MainProgram>(errors, QStringList(), ProgramReplacements{nullptr, &boxes});
     if (!mProgram->Start())
         qFatal("the program did not start");

@@ -18,7 +18,7 @@ class frmMain;
 // the test does not expect fails it.
 class ProgramBench {
   public:
-    ProgramBench();
+    explicit ProgramBench(qint32 language = 1);
     ~ProgramBench();
     Q_DISABLE_COPY_MOVE(ProgramBench)
 

@@ -1,15 +1,18 @@
 #include "data_form.h"
+#include "form_geometry.h"
 #include "frm_main.h"
 #include "ifield.h"
 #include "igrid.h"
 #include "program_bench.h"
 #include "transformer.h"
+#include "translation.h"
 #include "value_text.h"
 #include "window_input.h"
 #include "xarray_db.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTabWidget>
@@ -20,6 +23,17 @@
 #include <span>
 
 namespace {
+constexpr QSize kSmall(1024, 768);
+constexpr QSize kLarge(1600, 1000);
+
+// English and those that the dictionary has columns for.
+qint32 languages() {
+    QFile file(TranslationDictionary::StandardFile());
+    if (!file.open(QIODevice::ReadOnly))
+        return 1;
+    return file.readLine().trimmed().remove(0, 1).chopped(1).toInt();
+}
+
 // Forms that a tier shows, by their captions in the tree, in its order.
 QStringList formsOf(const ProgramBench &bench) {
     QStringList captions;
@@ -56,40 +70,6 @@ void fillData(const ProgramBench &bench) {
     if (count > kKindsOfTiers[0])
         bench.setValue(QStringLiteral("SignallingType"), 1, 1);
 }
-
-// What is wrong with the geometry of what is seen of a form.
-class Geometry {
-  public:
-    Geometry(DataForm &form, QStringList &faults) : mForm(form), mFaults(faults) {}
-
-    void look(const QString &where) {
-        mWhere = where;
-        QList<const QWidget *> seen;
-        for (HostControl *control : mForm.Iusrfrm_Controls()) {
-            const auto *widget = mForm.findChild<QWidget *>(control->Name());
-            if (widget->isVisible())
-                lookAt(*widget, seen);
-        }
-    }
-
-  private:
-    void lookAt(const QWidget &widget, QList<const QWidget *> &seen) {
-        if (!widget.parentWidget()->rect().contains(widget.geometry()))
-            fault(QStringLiteral("leaves its parent"), widget.objectName());
-        for (const QWidget *other : seen) {
-            if (other->parentWidget() == widget.parentWidget() && other->geometry().intersects(widget.geometry()))
-                fault(QStringLiteral("overlaps ") + other->objectName(), widget.objectName());
-        }
-        seen.push_back(&widget);
-    }
-    void fault(const QString &what, const QString &name) {
-        mFaults << mWhere + QStringLiteral(": ") + name + u' ' + what;
-    }
-
-    DataForm &mForm;
-    QStringList &mFaults;
-    QString mWhere;
-};
 } // namespace
 
 // Every form of the catalogue in the whole program, on each tier that has it.
@@ -98,6 +78,9 @@ class tst_all_forms final : public QObject {
   private Q_SLOTS:
     void everyFormOpensFilled_data();
     void everyFormOpensFilled();
+    void initTestCase() { mTranslation.Dictionary().Load(TranslationDictionary::StandardFile()); }
+    void cleanup();
+    void cleanupTestCase();
     void everyCallUpOpensItsSequence_data();
     void everyCallUpOpensItsSequence();
 
@@ -106,23 +89,43 @@ class tst_all_forms final : public QObject {
     void lookAtForm(const ProgramBench &bench, const QString &caption);
     void lookAtField(const ProgramBench &bench, const HostControl &control, const QString &where);
     void lookAtGrid(const ProgramBench &bench, Igrid &grid, const QString &where);
-    void picture(const ProgramBench &bench, QWidget &window, const QString &name);
+    void picture(QWidget &window, const QString &name);
+    void fault(const QString &what) { mGeometry.addFault(mPlace + what); }
 
-    QStringList mFaults;
+    FormGeometry mGeometry;
+    Translation mTranslation;
+    QString mPlace; // tier, language and size
 };
 
 void tst_all_forms::everyFormOpensFilled_data() {
     QTest::addColumn<QString>("tier");
+    QTest::addColumn<qint32>("language");
+    QTest::addColumn<QSize>("size");
     QTest::addColumn<int>("forms");
-    QTest::newRow("basic") << QStringLiteral("Basic") << 12;
-    QTest::newRow("standard") << QStringLiteral("Standard") << 22;
-    QTest::newRow("advanced") << QStringLiteral("Advanced") << 25;
+    const bool full = qEnvironmentVariableIsSet("KX_FULL");
+    const QStringList tiers{QStringLiteral("Basic"), QStringLiteral("Standard"), QStringLiteral("Advanced")};
+    constexpr int kForms[] = {12, 22, 25};
+    for (qint32 language = 1; language <= languages(); ++language) {
+        for (const QSize &size : {kSmall, kLarge}) {
+            for (qsizetype tier = 0; tier < tiers.size(); ++tier) {
+                // The largest tier has the forms of the others.
+                const bool quick = size == kSmall && (language == 1 || tier == 2);
+                if (full || quick)
+                    QTest::addRow("%s, language %d, %d", qPrintable(tiers[tier]), language, size.width())
+                        << tiers[tier] << language << size << kForms[tier];
+            }
+        }
+    }
 }
 
 void tst_all_forms::everyFormOpensFilled() {
     QFETCH(QString, tier);
-    mFaults.clear();
-    ProgramBench bench;
+    QFETCH(qint32, language);
+    QFETCH(QSize, size);
+    mPlace = QStringLiteral("%1-%2-%3-").arg(tier).arg(language).arg(size.width());
+    mTranslation.gLanguage = language;
+    ProgramBench bench(language);
+    bench.window().resize(size);
     bench.chooseTier(tier);
     fillData(bench);
     const QStringList captions = formsOf(bench);
@@ -130,7 +133,7 @@ void tst_all_forms::everyFormOpensFilled() {
         QVERIFY2(bench.openForm(caption), qPrintable(caption));
         lookAtForm(bench, caption);
     }
-    QCOMPARE(mFaults.join(u'\n'), QString());
+    QVERIFY2(mGeometry.faults().isEmpty(), qPrintable(mGeometry.faults().join(u'\n')));
     QTEST(int(captions.size()), "forms");
 }
 
@@ -143,7 +146,8 @@ void tst_all_forms::everyCallUpOpensItsSequence_data() {
 // Seven sequences to a system: with the second system on show they are 8 to 14.
 void tst_all_forms::everyCallUpOpensItsSequence() {
     QFETCH(QString, tier);
-    mFaults.clear();
+    mPlace = tier + QStringLiteral("-sub-");
+    mTranslation.gLanguage = 1;
     ProgramBench bench;
     bench.chooseTier(tier);
     fillData(bench);
@@ -159,7 +163,7 @@ void tst_all_forms::everyCallUpOpensItsSequence() {
         WindowInput::click(*bench.form()->findChild<QWidget *>(name)->findChild<QPushButton *>());
         QCOMPARE(shown, 7 + callUp);
     }
-    QCOMPARE(mFaults.join(u'\n'), QString());
+    QVERIFY2(mGeometry.faults().isEmpty(), qPrintable(mGeometry.faults().join(u'\n')));
 }
 
 // The record that it shows; closes it. 0 while it is not open.
@@ -174,8 +178,8 @@ int tst_all_forms::lookAtSubForm(const ProgramBench &bench) {
         if (control->TypeName() == u"fldPageNavigator")
             record = control->object()->Ifield_GetRecordNr();
     }
-    Geometry(*form, mFaults).look(QStringLiteral("Sub-form"));
-    picture(bench, *window, QStringLiteral("Sub-form"));
+    mGeometry.look(*form, mPlace + QStringLiteral("Sub-form"));
+    picture(*window, QStringLiteral("Sub-form"));
     window->findChild<QPushButton *>(QStringLiteral("cmdCancel"))->click();
     return record;
 }
@@ -183,7 +187,6 @@ int tst_all_forms::lookAtSubForm(const ProgramBench &bench) {
 void tst_all_forms::lookAtForm(const ProgramBench &bench, const QString &caption) {
     for (const HostControl *control : bench.form()->Iusrfrm_Controls())
         lookAtField(bench, *control, caption + QStringLiteral(": ") + control->Name());
-    Geometry geometry(*bench.form(), mFaults);
     auto *tabs = bench.form()->findChild<QTabWidget *>(QStringLiteral("SSTab1"));
     for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
         const QString where = tabs == nullptr ? caption : caption + u'-' + QString::number(page + 1);
@@ -192,12 +195,12 @@ void tst_all_forms::lookAtForm(const ProgramBench &bench, const QString &caption
         if (tabs != nullptr)
             tabs->setCurrentIndex(page);
         QCoreApplication::processEvents();
-        geometry.look(where);
+        mGeometry.look(*bench.form(), mPlace + where);
         for (const char *bar : {"HScroll1", "VScroll1"}) {
             if (bench.window().findChild<QScrollBar *>(QLatin1String(bar))->isVisible())
-                mFaults << where + QStringLiteral(": scrolls");
+                fault(where + QStringLiteral(": scrolls"));
         }
-        picture(bench, bench.window(), where);
+        picture(bench.window(), where);
     }
 }
 
@@ -210,22 +213,22 @@ void tst_all_forms::lookAtField(const ProgramBench &bench, const HostControl &co
         return;
     Ifield &field = *control.object();
     if (field.Ifield_GetUIIDNotFound())
-        mFaults << where + QStringLiteral(" is not found");
+        fault(where + QStringLiteral(" is not found"));
     if (!field.Ifield_GetVisible())
         return;
     const QString uiid = field.Ifield_GetUIID();
-    const QString label = bench.component().GetLabel(uiid);
+    const QString label = mTranslation.NLSStr(bench.component().GetLabel(uiid));
     // A box without room for a caption has blanks for one.
     if (!field.Ifield_GetName().trimmed().isEmpty() && !label.isEmpty() && field.Ifield_GetName() != label)
-        mFaults << where + QStringLiteral(" is labelled ") + field.Ifield_GetName();
+        fault(where + QStringLiteral(" is labelled ") + field.Ifield_GetName());
     const QString stored = bench.value(uiid, field.Ifield_GetRecordNr());
     if (ValueText::isUndefined(stored))
         return;
     if (ValueText::of(field.Ifield_GetValue()) != stored)
-        mFaults << where + QStringLiteral(" shows ") + ValueText::of(field.Ifield_GetValue()) +
-                       QStringLiteral(", not ") + stored;
+        fault(where + QStringLiteral(" shows ") + ValueText::of(field.Ifield_GetValue()) + QStringLiteral(", not ") +
+              stored);
     if (field.Ifield_GetEnabled() != bench.component().GetFieldEnabled(uiid, field.Ifield_GetRecordNr()))
-        mFaults << where + QStringLiteral(" is wrongly enabled or disabled");
+        fault(where + QStringLiteral(" is wrongly enabled or disabled"));
 }
 
 void tst_all_forms::lookAtGrid(const ProgramBench &bench, Igrid &grid, const QString &where) {
@@ -233,14 +236,21 @@ void tst_all_forms::lookAtGrid(const ProgramBench &bench, Igrid &grid, const QSt
     const XArrayDB &rows = grid.Igrid_GetArray();
     const qint32 records = bench.component().GetNumberOfRecords(uiids.first());
     if (rows.UpperBound(1) + 1 != records)
-        mFaults << where + QStringLiteral(" has %1 rows for %2 records").arg(rows.UpperBound(1) + 1).arg(records);
+        fault(where + QStringLiteral(" has %1 rows for %2 records").arg(rows.UpperBound(1) + 1).arg(records));
 }
 
-void tst_all_forms::picture(const ProgramBench &bench, QWidget &window, const QString &name) {
+void tst_all_forms::picture(QWidget &window, const QString &name) {
     const QDir folder(QCoreApplication::applicationDirPath() + QStringLiteral("/../form-pictures"));
     folder.mkpath(QStringLiteral("."));
-    window.grab().save(folder.filePath(bench.component().GetCurrentTier() + u'-' +
-                                       QString(name).replace(u' ', u'_').replace(u'/', u'_') + QStringLiteral(".png")));
+    window.grab().save(
+        folder.filePath(mPlace + QString(name).replace(u' ', u'_').replace(u'/', u'_') + QStringLiteral(".png")));
+}
+
+void tst_all_forms::cleanup() { mGeometry.forgetFaults(); }
+
+void tst_all_forms::cleanupTestCase() {
+    for (const QString &line : mGeometry.tightest(10))
+        qInfo("%s", qPrintable(line));
 }
 
 QTEST_MAIN(tst_all_forms)

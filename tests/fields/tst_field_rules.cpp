@@ -121,6 +121,7 @@ void tst_field_rules::checkBoxStandsOnTheColumnLine_data() {
     QTest::newRow("caption just fits its share") << 5000 << 0.2 << 1000 << true << 0 << 1300;
     QTest::newRow("box alone, captions right") << 5000 << 0.0 << 150 << true << 0 << 450;
     QTest::newRow("captions left") << 5000 << 0.6 << 1000 << false << 0 << 3090;
+    QTest::newRow("factor close to 1") << 3000 << 0.97 << 1000 << true << 1700 << 1300;
     QTest::newRow("box alone, captions left") << 5000 << 0.0 << 150 << false << 0 << 4900;
 }
 

@@ -6,7 +6,6 @@
 #include "recording_transformer.h"
 #include "test_services.h"
 
-#include <QLabel>
 #include <QPointer>
 #include <QTabWidget>
 #include <QTest>
@@ -14,11 +13,6 @@
 #include <memory>
 
 namespace {
-// The forms without grids, navigators and call-ups.
-const QStringList kPlainForms{QStringLiteral("usrctlSpecificationsKX4600"), QStringLiteral("usrctlStartupKX4600"),
-                              QStringLiteral("usrctlKeySettingsKX4600"),    QStringLiteral("usrctlEconomyKX4600"),
-                              QStringLiteral("usrctlRxMonitorKX4600"),      QStringLiteral("usrctlPTT")};
-
 // A window with one form in it, opened as the main window does it.
 struct Bench {
     CallLog log;
@@ -45,15 +39,6 @@ struct Bench {
     }
 };
 
-// Where a part of a field ends; a label where its text ends.
-int bottomOf(const QWidget &part) {
-    const auto *label = qobject_cast<const QLabel *>(&part);
-    if (label == nullptr)
-        return part.geometry().bottom() + 1;
-    const QRect room(0, 0, label->width(), 1000);
-    return label->y() + label->fontMetrics().boundingRect(room, Qt::TextWordWrap, label->text()).height();
-}
-
 HostControl *controlOf(DataForm &form, const QString &name) {
     for (HostControl *control : form.Iusrfrm_Controls()) {
         if (control->Name() == name)
@@ -68,8 +53,6 @@ class DataFormTest : public QObject {
 
   private Q_SLOTS:
     void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("setTabOrder"))); }
-    void noShownControlOverlapsOrIsCut_data();
-    void noShownControlOverlapsOrIsCut();
     void formWithAControlThatCannotBeMadeIsRefused_data();
     void formWithAControlThatCannotBeMadeIsRefused();
     void firstFocusIsTheFirstEnabledFieldOfTheFirstPage();
@@ -85,45 +68,6 @@ class DataFormTest : public QObject {
     void calibrationFormOpensEmpty();
     void invalidFormHoldsTheNavigator();
 };
-
-void DataFormTest::noShownControlOverlapsOrIsCut_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QSize>("size");
-    for (const QString &name : kPlainForms) {
-        for (const QSize &size : {QSize(623, 429), QSize(733, 580), QSize(1307, 806)})
-            QTest::newRow(qPrintable(name + QString::number(size.width()))) << name << size;
-    }
-}
-
-void DataFormTest::noShownControlOverlapsOrIsCut() {
-    QFETCH(QString, name);
-    QFETCH(QSize, size);
-    Bench bench;
-    DataForm *form = bench.open(name, size);
-    QTabWidget *tabs = form->findChild<QTabWidget *>();
-    for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
-        if (tabs != nullptr)
-            tabs->setCurrentIndex(page);
-        QList<QWidget *> seen;
-        for (HostControl *control : form->Iusrfrm_Controls()) {
-            QWidget *widget = form->findChild<QWidget *>(control->Name());
-            if (!widget->isVisibleTo(form))
-                continue;
-            QVERIFY2(widget->parentWidget()->rect().contains(widget->geometry()), qPrintable(control->Name()));
-            for (const QWidget *other : seen) {
-                if (other->parentWidget() == widget->parentWidget())
-                    QVERIFY2(!other->geometry().intersects(widget->geometry()), qPrintable(control->Name()));
-            }
-            for (const QWidget *part : widget->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
-                if (!part->isVisibleTo(form) || part->isWindow())
-                    continue;
-                QVERIFY2(bottomOf(*part) <= widget->height() && part->geometry().right() <= widget->width(),
-                         qPrintable(control->Name() + u' ' + part->objectName()));
-            }
-            seen.push_back(widget);
-        }
-    }
-}
 
 void DataFormTest::formWithAControlThatCannotBeMadeIsRefused_data() {
     QTest::addColumn<QString>("name");

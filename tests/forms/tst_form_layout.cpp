@@ -9,11 +9,6 @@
 #include <algorithm>
 
 namespace {
-struct Tight {
-    qint32 slack; // twips
-    QString where;
-};
-
 qint32 right(const TwipRect &rect) { return (rect.left + rect.width).count; }
 qint32 bottom(const TwipRect &rect) { return (rect.top + rect.height).count; }
 
@@ -48,11 +43,9 @@ class FormLayoutTest : public QObject {
     void onlyFramesGridsAndTabsGrowWithTheForm();
     void captionsBreakWhereALabelBreaksThem_data();
     void captionsBreakWhereALabelBreaksThem();
-    void cleanupTestCase();
 
   private:
     FormCatalogue mCatalogue;
-    std::vector<Tight> mTight;
 };
 
 void FormLayoutTest::nothingOverlapsOrLeavesItsContainer_data() {
@@ -119,8 +112,6 @@ void FormLayoutTest::noLabelIsCut() {
             const Twips label{qint32(place.width.count * factor) - 200};
             const QString caption = texts.caption(*placed.control);
             const int lines = CaptionFit::lines(measure, caption, label);
-            if (lines == 1)
-                mTight.push_back({(label - measure(caption)).count, name + u' ' + placed.control->name});
             QVERIFY2(lines * texts.lineHeight().count <= std::max(place.height.count, 315),
                      qPrintable(name + u' ' + placed.control->name));
         }
@@ -229,12 +220,6 @@ void FormLayoutTest::captionsBreakWhereALabelBreaksThem() {
     QFETCH(int, lines);
     const auto measure = [](const QString &part) { return Twips{qint32(part.size())}; };
     QCOMPARE(CaptionFit::lines(measure, text, Twips{characters}), lines);
-}
-
-void FormLayoutTest::cleanupTestCase() {
-    std::ranges::sort(mTight, {}, &Tight::slack);
-    for (std::size_t i = 0; i < std::min<std::size_t>(10, mTight.size()); ++i)
-        qInfo("%d twips beside the label of %s", mTight[i].slack, qPrintable(mTight[i].where));
 }
 
 QTEST_GUILESS_MAIN(FormLayoutTest)

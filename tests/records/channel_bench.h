@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QPushButton>
+#include <QSet>
 #include <QTest>
 
 inline constexpr qint32 kRx = 1;
@@ -17,16 +18,19 @@ inline const auto kRxFreq = QStringLiteral("RxFreq_q7r");
 // The channels form's grid over the real component, with a number of channels: channel n receives on 140 + n MHz.
 class ChannelBench : public GridBench {
   public:
-    explicit ChannelBench(int channels, const QStringList &dictionary = {}) : grid(addGrid(channelColumns())) {
-        if (!dictionary.isEmpty())
-            services.translate(dictionary);
+    explicit ChannelBench(int channels, qint32 language = 1) : grid(addGrid(channelColumns())) {
+        services.translation.Dictionary().Load(TranslationDictionary::StandardFile());
+        services.translation.gLanguage = language;
+        component.SaveSetting(QStringLiteral("Language"), language);
         while (component.GetNumberOfRecords(kRxFreq) < channels) {
             qint32 record = 0;
             bool added = false;
             component.AddRecord(kRxFreq, QStringLiteral("BenchGrid"), record, added);
         }
-        for (int channel = 1; channel <= channels; ++channel)
+        for (int channel = 1; channel <= channels; ++channel) {
             write(kRxFreq, megahertz(channel), channel);
+            write(QStringLiteral("TxPower_q7r"), channel % 2, channel);
+        }
         start(grid);
     }
 
@@ -47,13 +51,29 @@ class ChannelBench : public GridBench {
         for (qint32 row = first; row <= last; ++row)
             table().AddSelBookmark(row);
     }
-    // What the component has, by record.
-    QStringList frequencies() const {
-        auto &data = const_cast<TransformerComponent &>(component);
+    // What the component has of a field, by record.
+    QStringList values(const QString &uiid) {
         QStringList values;
-        for (qint32 record = 1; record <= data.GetNumberOfRecords(kRxFreq); ++record)
-            values << stored(kRxFreq, record);
+        for (qint32 record = 1; record <= component.GetNumberOfRecords(uiid); ++record)
+            values << stored(uiid, record);
         return values;
+    }
+    QStringList frequencies() { return values(kRxFreq); }
+    // All that the component has of each record, but for its identity.
+    QStringList records() {
+        QStringList records;
+        const QStringList uiids = grid.Igrid_GetUIIDList().split(u'|');
+        for (qint32 record = 1; record <= component.GetNumberOfRecords(kRxFreq); ++record) {
+            QStringList cells;
+            for (const QString &uiid : uiids.mid(1))
+                cells << stored(uiid, record);
+            records << cells.join(u'|');
+        }
+        return records;
+    }
+    bool identitiesAreUnique() {
+        const QStringList all = values(QStringLiteral("ChannelID_q7r"));
+        return QSet<QString>(all.begin(), all.end()).size() == all.size();
     }
     QStringList shownRows() {
         QStringList rows;
@@ -65,13 +85,14 @@ class ChannelBench : public GridBench {
         }
         return rows;
     }
-    // Whether the grid shows what a fresh fill would show, also after what the component still had to say.
+    // Whether the grid shows what a fresh fill would show, also after what the component still had to say, and no
+    // identity stands twice.
     bool showsItsData() {
         const QStringList now = shownRows();
         QCoreApplication::processEvents();
         const QStringList settled = shownRows();
         events.enabler->Ienabler_RefreshGridByUIID(kRxFreq);
-        return now == shownRows() && settled == now;
+        return now == shownRows() && settled == now && identitiesAreUnique();
     }
     void press(const char *button) { WindowInput::click(*grid.findChild<QPushButton *>(QString::fromLatin1(button))); }
 };

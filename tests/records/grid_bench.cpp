@@ -8,6 +8,15 @@
 
 #include <algorithm>
 
+namespace {
+// Nothing is kept; pasted list items may be in another language.
+ComponentPlaces placesOfTheBench() {
+    ComponentPlaces places;
+    places.translationFile = TranslationDictionary::StandardFile();
+    return places;
+}
+} // namespace
+
 void FormEvents::TransformerEvents_UpdateUIFieldByUIID(const QString &UIID, qint32 RecordNr, const QVariant &Value) {
     ComponentListener::TransformerEvents_UpdateUIFieldByUIID(UIID, RecordNr, Value);
     if (enabler != nullptr)
@@ -26,9 +35,9 @@ void FormEvents::TransformerEvents_SetEnableDisableByUIID(const QString &UIID, b
         enabler->Ienabler_SetEnableDisableByUIID(UIID, Enable);
 }
 
-GridBench::GridBench()
-    : component(ComponentPlaces{}, [this] { return services.clipboard.Text(); }), mGuard(services.errors) {
-    services.process.objTransformer = &component;
+GridBench::GridBench(Transformer *componentDouble)
+    : component(placesOfTheBench(), [this] { return services.clipboard.Text(); }), mGuard(services.errors) {
+    services.process.objTransformer = componentDouble == nullptr ? &component : componentDouble;
     services.shell.mainWindow = &window;
     component.AddListener(&events);
     component.ChangeTier(QStringLiteral("Advanced"));

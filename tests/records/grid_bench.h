@@ -39,10 +39,12 @@ class BenchForm final : public QWidget, public Iusrfrm {
     HostControl *Iusrfrm_ActiveControl() override;
 };
 
-// A form with grids over the real component: enabler, focus guard and clipboard as in the program, the tier "Advanced".
+// A form with record controls over the real component: enabler, focus guard and clipboard as in the program, the tier
+// "Advanced".
 class GridBench {
   public:
-    GridBench();
+    // With a double the form asks that one instead, and nothing is raised.
+    explicit GridBench(Transformer *componentDouble = nullptr);
     ~GridBench();
 
     FormEvents events;

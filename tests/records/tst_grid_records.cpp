@@ -1,88 +1,129 @@
 #include "cell_drag_data.h"
 #include "channel_bench.h"
+#include "message_style.h"
 
 #include <QApplication>
 #include <QDropEvent>
+#include <QHeaderView>
 #include <QMimeData>
 #include <QTest>
 
+#include <memory>
+
 namespace {
-const QStringList kFrench{QStringLiteral("High|Haute"), QStringLiteral("Low|Basse"), QStringLiteral("None|Aucun"),
-                          QStringLiteral("Network setting|Selon le réseau")};
+const auto kPowerField = QStringLiteral("TxPower_q7r");
+const auto kOverwrite = QStringLiteral("Do you want to overwrite the selected records?");
+
+// Drops data on a cell, or on the middle of the cells.
+void dropOn(TDBGrid &table, const QMimeData &data, Qt::DropAction action, std::optional<GridCell> cell = std::nullopt) {
+    QWidget &cells = table.CellsSurface();
+    const QPoint point =
+        cell ? table.visualRect(table.model()->index(cell->row, cell->column)).center() : cells.rect().center();
+    QDragEnterEvent enter(point, action, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&cells, &enter);
+    QDropEvent drop(point, action, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&cells, &drop);
+}
+
+QStringList without(QStringList list, qsizetype index) {
+    list.removeAt(index);
+    return list;
+}
 } // namespace
 
-// The record operations of a real grid, with the data checked through the component.
+// The record operations and imports of a real grid, in each language, with the data of all records checked through the
+// component.
 class tst_grid_records : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void recordsAreMadeWhereTheyBelong_data();
+    void initTestCase_data();
     void recordsAreMadeWhereTheyBelong();
     void deleteTakesTheSelectedRows_data();
     void deleteTakesTheSelectedRows();
+    void sortingKeepsEachRecordWhole();
     void typedTextNeverReachesAnotherRecord_data();
     void typedTextNeverReachesAnotherRecord();
     void anInvalidCellHoldsTheCommandsBack();
     void fillDownCopiesTheFirstValue();
     void pasteReplacesACell();
     void aCellIsDraggedOntoAnother();
-    void tabRunsThroughTheCells();
+    void copiedRowsPasteAsNewRecords();
+    void copiedRowsOverwriteTheSelectedOnes();
+    void aColumnFillsDownwards_data();
+    void aColumnFillsDownwards();
+    void refusedCellsAreToldAndTheRestIsTaken();
+    void rowsAreDroppedOnAnotherGrid();
+
+  private:
+    static std::unique_ptr<ChannelBench> bench(int channels) {
+        QFETCH_GLOBAL(qint32, language);
+        return std::make_unique<ChannelBench>(channels, language);
+    }
 };
 
-void tst_grid_records::recordsAreMadeWhereTheyBelong_data() {
-    QTest::addColumn<QStringList>("dictionary");
-    QTest::newRow("English") << QStringList();
-    QTest::newRow("French") << kFrench;
+void tst_grid_records::initTestCase_data() {
+    QTest::addColumn<qint32>("language");
+    QTest::newRow("English") << 1;
+    QTest::newRow("French") << 2;
 }
 
 void tst_grid_records::recordsAreMadeWhereTheyBelong() {
-    QFETCH(const QStringList, dictionary);
-    ChannelBench bench(3, dictionary);
-    bench.table().SetBookmark(1);
-    bench.press("cmdInsert");
-    QCOMPARE(bench.component.GetNumberOfRecords(kRxFreq), 4);
-    QCOMPARE(bench.frequencies().at(0), megahertz(1));
-    QCOMPARE(bench.frequencies().mid(2), channels({2, 3}));
-    QCOMPARE(bench.table().SelBookmarks(), std::vector<qint32>{1});
-    QVERIFY(bench.showsItsData());
+    const auto form = bench(3);
+    const QStringList before = form->records();
+    form->table().SetBookmark(1);
+    form->press("cmdInsert");
+    QCOMPARE(without(form->records(), 1), before);
+    QCOMPARE(form->table().SelBookmarks(), std::vector<qint32>{1});
+    QVERIFY(form->showsItsData());
 
-    bench.table().SetBookmark(3);
-    bench.press("cmdRepeat");
-    QCOMPARE(bench.frequencies().mid(2), channels({2, 3, 3}));
-    QCOMPARE(bench.grid.CurrentRow(), 4);
-    QVERIFY(bench.showsItsData());
+    form->table().SetBookmark(3);
+    form->press("cmdRepeat");
+    QCOMPARE(form->records().mid(2), before.mid(1) + before.mid(2));
+    QCOMPARE(form->grid.CurrentRow(), 4);
+    QVERIFY(form->showsItsData());
 
-    bench.table().SetBookmark(0);
-    bench.press("cmdAdd");
-    QCOMPARE(bench.component.GetNumberOfRecords(kRxFreq), 6);
-    QCOMPARE(bench.grid.CurrentRow(), 5);
-    QCOMPARE(bench.table().SelBookmarks(), std::vector<qint32>{5});
-    QVERIFY(bench.showsItsData());
-    QVERIFY(bench.table().hasFocus());
+    const QStringList repeated = form->records();
+    form->table().SetBookmark(0);
+    form->press("cmdAdd");
+    QCOMPARE(without(form->records(), 5), repeated);
+    QCOMPARE(form->grid.CurrentRow(), 5);
+    QCOMPARE(form->table().SelBookmarks(), std::vector<qint32>{5});
+    QVERIFY(form->showsItsData());
+    QVERIFY(form->table().hasFocus());
 }
 
 void tst_grid_records::deleteTakesTheSelectedRows_data() {
-    QTest::addColumn<QStringList>("dictionary");
     QTest::addColumn<QPoint>("block");
-    QTest::addColumn<QList<int>>("left");
     QTest::addColumn<qint32>("cursor");
-    QTest::newRow("one in the middle") << QStringList() << QPoint(2, 2) << QList<int>{1, 2, 4, 5} << 2;
-    QTest::newRow("the last one") << QStringList() << QPoint(4, 4) << QList<int>{1, 2, 3, 4} << 3;
-    QTest::newRow("three in the middle") << QStringList() << QPoint(1, 3) << QList<int>{1, 5} << 1;
-    QTest::newRow("three at the end") << kFrench << QPoint(2, 4) << QList<int>{1, 2} << 1;
-    QTest::newRow("two at the start") << kFrench << QPoint(0, 1) << QList<int>{3, 4, 5} << 0;
+    QTest::newRow("one in the middle") << QPoint(2, 2) << 2;
+    QTest::newRow("the last one") << QPoint(4, 4) << 3;
+    QTest::newRow("three in the middle") << QPoint(1, 3) << 1;
+    QTest::newRow("three at the end") << QPoint(2, 4) << 1;
+    QTest::newRow("two at the start") << QPoint(0, 1) << 0;
 }
 
 void tst_grid_records::deleteTakesTheSelectedRows() {
-    QFETCH(const QStringList, dictionary);
     QFETCH(const QPoint, block);
-    QFETCH(const QList<int>, left);
-    ChannelBench bench(5, dictionary);
-    bench.select(block.x(), block.y());
-    bench.press("cmdDelete");
-    QCOMPARE(bench.frequencies(), channels(left));
-    QVERIFY(bench.showsItsData());
-    QTEST(bench.grid.CurrentRow(), "cursor");
+    const auto form = bench(5);
+    QStringList left = form->records();
+    left.remove(block.x(), block.y() - block.x() + 1);
+    form->select(block.x(), block.y());
+    form->press("cmdDelete");
+    QCOMPARE(form->records(), left);
+    QVERIFY(form->showsItsData());
+    QTEST(form->grid.CurrentRow(), "cursor");
+}
+
+void tst_grid_records::sortingKeepsEachRecordWhole() {
+    const auto form = bench(4);
+    form->write(kRxFreq, QStringLiteral("139"), 3);
+    form->events.enabler->Ienabler_RefreshGridByUIID(kRxFreq);
+    const QStringList before = form->records();
+    const QHeaderView &heads = *form->table().horizontalHeader();
+    WindowInput::clickAt(*heads.viewport(), QPoint(heads.sectionViewportPosition(kRx) + 10, heads.height() / 2));
+    QCOMPARE(form->records(), QStringList({before[2], before[0], before[1], before[3]}));
+    QVERIFY(form->showsItsData());
 }
 
 void tst_grid_records::typedTextNeverReachesAnotherRecord_data() {
@@ -92,6 +133,7 @@ void tst_grid_records::typedTextNeverReachesAnotherRecord_data() {
     QTest::newRow("insert") << 1 << 3;
     QTest::newRow("repeat") << 2 << 2;
     QTest::newRow("add") << 3 << 2;
+    QTest::newRow("paste of records") << 4 << 2;
 }
 
 // Commands that come while a cell is being edited, without the focus leaving it.
@@ -100,100 +142,151 @@ void tst_grid_records::typedTextNeverReachesAnotherRecord() {
     QFETCH(const qint32, own);
     using Command = void (fldGridField::*)();
     constexpr Command kCommands[] = {&fldGridField::Delete, &fldGridField::Insert, &fldGridField::Repeat,
-                                     &fldGridField::Add};
-    ChannelBench bench(3);
-    bench.table().MoveTo({1, kRx});
+                                     &fldGridField::Add, &fldGridField::Ifield_Paste};
+    const auto form = bench(3);
+    form->select(0, 0);
+    form->grid.Ifield_Copy();
+    form->table().MoveTo({1, kRx});
     WindowInput::type(QStringLiteral("155"));
-    (bench.grid.*kCommands[command])();
+    (form->grid.*kCommands[command])();
     QCoreApplication::processEvents();
-    bench.table().MoveTo({0, 0});
-    for (qint32 record = 1; record <= bench.component.GetNumberOfRecords(kRxFreq); ++record)
-        QVERIFY(record == own || bench.stored(kRxFreq, record) != QStringLiteral("155.000000"));
-    QVERIFY(bench.showsItsData());
+    form->table().MoveTo({0, 0});
+    for (qint32 record = 1; record <= form->component.GetNumberOfRecords(kRxFreq); ++record)
+        QVERIFY(record == own || form->stored(kRxFreq, record) != QStringLiteral("155.000000"));
+    QVERIFY(form->showsItsData());
 }
 
 void tst_grid_records::anInvalidCellHoldsTheCommandsBack() {
-    ChannelBench bench(3);
+    const auto form = bench(3);
+    const QStringList before = form->records();
     for (const char *button : {"cmdAdd", "cmdInsert", "cmdRepeat", "cmdDelete"}) {
-        bench.table().MoveTo({1, kRx});
+        form->table().MoveTo({1, kRx});
         WindowInput::type(QStringLiteral("999"));
-        bench.press(button);
-        QVERIFY2(!bench.events.messages.isEmpty(), button);
-        QCOMPARE(bench.frequencies(), channels({1, 2, 3}));
+        form->press(button);
+        QVERIFY2(!form->events.messages.isEmpty(), button);
+        QCOMPARE(form->records(), before);
         WindowInput::key(Qt::Key_Escape);
-        bench.events.clear();
+        form->events.clear();
     }
-    QVERIFY(bench.showsItsData());
+    QVERIFY(form->showsItsData());
 }
 
 void tst_grid_records::fillDownCopiesTheFirstValue() {
-    ChannelBench bench(5, kFrench);
-    bench.table().MoveTo({1, kRx});
-    bench.select(1, 3);
+    const auto form = bench(5);
+    const QStringList powers = form->values(kPowerField);
+    form->table().MoveTo({1, kRx});
+    form->select(1, 3);
     WindowInput::key(Qt::Key_D, Qt::ControlModifier);
-    QCOMPARE(bench.frequencies(), channels({1, 2, 2, 2, 5}));
-    QCOMPARE(bench.table().SelBookmarks(), (std::vector<qint32>{1, 2, 3}));
-    QVERIFY(bench.showsItsData());
+    QCOMPARE(form->frequencies(), channels({1, 2, 2, 2, 5}));
+    QCOMPARE(form->values(kPowerField), powers);
+    QCOMPARE(form->table().SelBookmarks(), (std::vector<qint32>{1, 2, 3}));
+    QVERIFY(form->showsItsData());
 }
 
 void tst_grid_records::pasteReplacesACell() {
-    ChannelBench bench(3, kFrench);
-    const QString before = bench.stored(QStringLiteral("TxPower_q7r"), 2);
-    bench.services.clipboard.SetText(QStringLiteral("Basse"));
-    bench.table().MoveTo({1, kPower});
-    bench.grid.Ifield_Paste();
-    QCOMPARE(GridBench::shown(bench.grid, 1, kPower), QStringLiteral("Basse"));
-    bench.services.clipboard.SetText(QStringLiteral("150.5"));
-    bench.table().MoveTo({1, kRx});
-    bench.grid.Ifield_Paste();
-    bench.services.clipboard.SetText(QStringLiteral("no such power"));
-    bench.table().MoveTo({2, kPower});
-    bench.grid.Ifield_Paste();
-    bench.table().MoveTo({0, 0});
-    QVERIFY(bench.stored(QStringLiteral("TxPower_q7r"), 2) != before);
-    QCOMPARE(bench.stored(QStringLiteral("TxPower_q7r"), 3), before);
-    QCOMPARE(bench.stored(kRxFreq, 2), QStringLiteral("150.500000"));
-    QVERIFY(bench.showsItsData());
+    const auto form = bench(3);
+    const QStringList before = form->values(kPowerField);
+    const QString other = GridBench::shown(form->grid, 0, kPower); // in the language of the grid
+    const auto paste = [&](const GridCell &cell, const QString &text) {
+        form->services.clipboard.SetText(text);
+        form->table().MoveTo(cell);
+        form->grid.Ifield_Paste();
+    };
+    paste({1, kPower}, other);
+    QCOMPARE(GridBench::shown(form->grid, 1, kPower), other);
+    paste({1, kRx}, QStringLiteral("150.5"));
+    paste({2, kPower}, QStringLiteral("no such power"));
+    form->table().MoveTo({0, 0});
+    QCOMPARE(form->values(kPowerField), QStringList({before[0], before[0], before[2]}));
+    QVERIFY(before[0] != before[1]);
+    QCOMPARE(form->frequencies(), QStringList({megahertz(1), QStringLiteral("150.500000"), megahertz(3)}));
+    QVERIFY(form->showsItsData());
 }
 
 void tst_grid_records::aCellIsDraggedOntoAnother() {
-    ChannelBench bench(3);
-    QWidget &cells = bench.table().CellsSurface();
-    const auto dropOn = [&](const GridCell &cell, const QString &value) {
-        const auto data = CellDragData::make(cells, value);
-        const QPoint point = bench.table().visualRect(bench.table().model()->index(cell.row, cell.column)).center();
-        QDragEnterEvent enter(point, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&cells, &enter);
-        QDropEvent drop(point, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(&cells, &drop);
+    const auto form = bench(3);
+    const auto drop = [&](const GridCell &cell, const QString &value) {
+        dropOn(form->table(), *CellDragData::make(form->table().CellsSurface(), value), Qt::CopyAction, cell);
     };
-    dropOn({2, kRx}, megahertz(1));
-    QCOMPARE(bench.frequencies(), channels({1, 2, 1}));
-    dropOn({1, kRx}, QStringLiteral("999"));
-    QCOMPARE(bench.frequencies(), channels({1, 2, 1}));
-    QCOMPARE(GridBench::shown(bench.grid, 1, kRx), megahertz(2));
-    dropOn({0, kPower}, QStringLiteral("Low"));
-    QVERIFY(bench.stored(QStringLiteral("TxPower_q7r"), 1) != bench.stored(QStringLiteral("TxPower_q7r"), 2));
-    QVERIFY(bench.showsItsData());
+    drop({2, kRx}, megahertz(1));
+    QCOMPARE(form->frequencies(), channels({1, 2, 1}));
+    drop({1, kRx}, QStringLiteral("999"));
+    QCOMPARE(form->frequencies(), channels({1, 2, 1}));
+    const QString power = GridBench::shown(form->grid, 1, kPower);
+    drop({0, kPower}, power);
+    QCOMPARE(form->stored(kPowerField, 1), form->stored(kPowerField, 2));
+    QVERIFY(form->showsItsData());
 }
 
-void tst_grid_records::tabRunsThroughTheCells() {
-    ChannelBench bench(2);
-    bench.table().MoveTo({0, 7});
-    WindowInput::key(Qt::Key_Tab);
-    WindowInput::key(Qt::Key_Tab);
-    QCOMPARE(bench.table().currentCell(), (GridCell{1, 0}));
-    WindowInput::key(Qt::Key_Backtab, Qt::ShiftModifier);
-    QCOMPARE(bench.table().currentCell(), (GridCell{0, 8}));
-    bench.table().MoveTo({1, 8});
-    TDBGrid &below = GridBench::table(bench.other);
-    below.MoveTo({1, 3});
-    WindowInput::key(Qt::Key_Tab);
-    QVERIFY(below.hasFocus());
-    QCOMPARE(below.currentCell(), (GridCell{0, 0}));
-    WindowInput::key(Qt::Key_Backtab, Qt::ShiftModifier);
-    QVERIFY(bench.table().hasFocus());
-    QCOMPARE(bench.table().currentCell(), (GridCell{1, 8}));
+void tst_grid_records::copiedRowsPasteAsNewRecords() {
+    const auto form = bench(3);
+    const QStringList before = form->records();
+    form->select(0, 1);
+    form->grid.Ifield_Copy();
+    form->table().MoveTo({2, 0});
+    form->grid.Ifield_Paste();
+    QCOMPARE(form->records(), before + before.mid(0, 2));
+    QVERIFY(form->showsItsData());
+    QCOMPARE(form->grid.CurrentRow(), 1);
+    // Identities are unique: the new records have got free ones, and that is told.
+    QCOMPARE(form->events.messages.size(), 1);
+    // The other grid of these records knows them too.
+    QCOMPARE(GridBench::table(form->other).ApproxCount(), 5);
+}
+
+void tst_grid_records::copiedRowsOverwriteTheSelectedOnes() {
+    const auto form = bench(5);
+    const QStringList before = form->records();
+    form->select(0, 1);
+    form->grid.Ifield_Copy();
+    form->select(3, 4);
+    form->services.boxes.expect(kOverwrite, MessageAnswer::kYes);
+    form->grid.Ifield_Paste();
+    QCOMPARE(form->records(), before.mid(0, 3) + before.mid(0, 2));
+    QVERIFY(form->showsItsData());
+}
+
+void tst_grid_records::aColumnFillsDownwards_data() {
+    QTest::addColumn<qint32>("row");
+    QTest::addColumn<QList<int>>("filled");
+    QTest::newRow("from the first row") << 0 << QList<int>{8, 9, 10, 4, 5};
+    QTest::newRow("from the current row") << 1 << QList<int>{1, 8, 9, 10, 5};
+}
+
+void tst_grid_records::aColumnFillsDownwards() {
+    QFETCH(const qint32, row);
+    QFETCH(const QList<int>, filled);
+    const auto form = bench(5);
+    const QStringList powers = form->values(kPowerField);
+    form->table().MoveTo({row, kRx});
+    form->services.clipboard.SetText(QStringLiteral("148\n149\n150\n"));
+    form->grid.Ifield_Paste();
+    QCOMPARE(form->frequencies(), channels(filled));
+    QCOMPARE(form->values(kPowerField), powers);
+    QVERIFY(form->showsItsData());
+}
+
+void tst_grid_records::refusedCellsAreToldAndTheRestIsTaken() {
+    const auto form = bench(3);
+    form->table().MoveTo({0, kRx});
+    form->services.clipboard.SetText(QStringLiteral("148\r\n999\r\n150\r\n"));
+    form->grid.Ifield_Paste();
+    QCOMPARE(form->frequencies(), channels({8, 2, 10}));
+    QVERIFY(!form->events.messages.isEmpty());
+    QVERIFY(form->showsItsData());
+}
+
+void tst_grid_records::rowsAreDroppedOnAnotherGrid() {
+    const auto form = bench(3);
+    const QStringList before = form->records();
+    form->select(1, 2);
+    form->grid.Ifield_Copy(); // a drag of rows carries the same text
+    QMimeData data;
+    data.setText(form->services.clipboard.Text());
+    dropOn(GridBench::table(form->other), data, Qt::MoveAction);
+    QCOMPARE(form->records(), before + before.mid(1));
+    QCOMPARE(GridBench::table(form->other).ApproxCount(), 5);
+    QVERIFY(form->showsItsData());
 }
 
 QTEST_MAIN(tst_grid_records)

@@ -3,6 +3,7 @@
 #include "field_host.h"
 #include "fld_text_field.h"
 #include "focus_guard.h"
+#include "form_geometry.h"
 #include "iusrfrm.h"
 #include "navigator_bench.h"
 #include "navigator_grid.h"
@@ -247,16 +248,9 @@ void tst_navigator_buttons::nothingOverlapsInAnyLanguage() {
     const TwipSize size = bench.navigator->SetControlSize({{width}, {600}});
     QCOMPARE(size.width, Twips{width});
     bench.window.show();
-    QList<QWidget *> seen;
-    for (QWidget *part : bench.navigator->findChildren<QWidget *>(Qt::FindDirectChildrenOnly)) {
-        if (part->isHidden() || part->isWindow())
-            continue;
-        QVERIFY2(bench.navigator->rect().contains(part->geometry()), qPrintable(part->objectName()));
-        QVERIFY2(part->width() >= 26, qPrintable(part->objectName()));
-        for (const QWidget *other : seen)
-            QVERIFY2(!other->geometry().intersects(part->geometry()), qPrintable(part->objectName()));
-        seen.push_back(part);
-    }
+    FormGeometry geometry;
+    geometry.look(*bench.navigator, QStringLiteral("navigator"));
+    QCOMPARE(geometry.faults().join(u'\n'), QString());
     if (style != 0)
         QVERIFY2(bench.list().width() >= 80, qPrintable(QString::number(bench.list().width())));
     QCOMPARE(bench.navigator->SetControlSize({{3000}, {600}}).width, Twips{6000});
