@@ -6,10 +6,8 @@
 #include "json_text.h"
 #include "restore_points.h"
 #include "sealed_text.h"
-#include "sha256.h"
 #include "whole_file.h"
 
-#include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
@@ -37,7 +35,6 @@ class tst_data_files : public QObject {
     void unknownFieldsFollowTheirRecord();
     void everyFaultOfTheGrammarIsFound_data();
     void everyFaultOfTheGrammarIsFound();
-    void checksumIsThatOfTheStandard();
     void damagedFileIsRefusedWithItsPath_data();
     void damagedFileIsRefusedWithItsPath();
     void everyFlippedByteAndTruncationIsNoticed();
@@ -179,12 +176,6 @@ void tst_data_files::everyFaultOfTheGrammarIsFound() {
     QFETCH(QByteArray, text);
     QFETCH(int, fault);
     QCOMPARE(int(JsonText::fault(text).value_or(-1)), fault);
-}
-
-void tst_data_files::checksumIsThatOfTheStandard() {
-    QByteArray bytes;
-    for (int length = 0; length < 200; ++length, bytes += char(length * 37))
-        QCOMPARE(Sha256::hex(bytes), QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
 }
 
 void tst_data_files::damagedFileIsRefusedWithItsPath_data() {

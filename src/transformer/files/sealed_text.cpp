@@ -1,19 +1,27 @@
 #include "sealed_text.h"
 
-#include "sha256.h"
+#include <openssl/sha.h>
 
 namespace {
 constexpr QByteArrayView kLineStart = "\"sha256\": \"";
 constexpr QByteArrayView kLineEnd = "\"}\n";
 constexpr qsizetype kHexDigits = 64;
 constexpr qsizetype kLineLength = kLineStart.size() + kHexDigits + kLineEnd.size();
+
+// QCryptographicHash computes the same, but without the processor's own instructions: a third of the work of a save.
+QByteArray hashOf(QByteArrayView bytes) {
+    QByteArray digest(SHA256_DIGEST_LENGTH, 0);
+    SHA256(reinterpret_cast<const unsigned char *>(bytes.data()), std::size_t(bytes.size()),
+           reinterpret_cast<unsigned char *>(digest.data()));
+    return digest.toHex();
+}
 } // namespace
 
 namespace SealedText {
 QByteArray seal(const QByteArray &open) {
     QByteArray text = open;
     text += kLineStart;
-    text += Sha256::hex(open);
+    text += hashOf(open);
     text += kLineEnd;
     return text;
 }
@@ -28,6 +36,6 @@ std::optional<QByteArray> statedHash(const QByteArray &text) {
 
 bool isIntact(const QByteArray &text) {
     const std::optional<QByteArray> stated = statedHash(text);
-    return stated && *stated == Sha256::hex(QByteArrayView(text).chopped(kLineLength));
+    return stated && *stated == hashOf(QByteArrayView(text).chopped(kLineLength));
 }
 } // namespace SealedText
