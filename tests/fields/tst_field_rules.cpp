@@ -1,8 +1,6 @@
 #include "check_layout.h"
 #include "cls_format_edit.h"
-#include "combo_translation.h"
 #include "common_error_handler.h"
-#include "drag_payload.h"
 #include "field_properties.h"
 #include "label_layout.h"
 #include "run_time_error.h"
@@ -15,20 +13,11 @@ class tst_field_rules final : public QObject {
   private Q_SLOTS:
     void maskLetsOnlyItsCharactersPass_data();
     void maskLetsOnlyItsCharactersPass();
-    void captionAndBoxShareTheWidth_data();
     void captionAndBoxShareTheWidth();
-    void longCaptionMakesTheFieldHigher_data();
     void longCaptionMakesTheFieldHigher();
-    void checkBoxStandsOnTheColumnLine_data();
     void checkBoxStandsOnTheColumnLine();
-    void storedValueFindsItsItem_data();
-    void storedValueFindsItsItem();
-    void positionFindsItsStoredValue_data();
-    void positionFindsItsStoredValue();
     void firstLettersChooseAnItem_data();
     void firstLettersChooseAnItem();
-    void payloadHasThreeParts_data();
-    void payloadHasThreeParts();
     void wrongPropertyIsRefusedByName_data();
     void wrongPropertyIsRefusedByName();
 };
@@ -64,115 +53,63 @@ void tst_field_rules::maskLetsOnlyItsCharactersPass() {
     QTEST(edit.filtered(typed), "passed");
 }
 
-void tst_field_rules::captionAndBoxShareTheWidth_data() {
-    QTest::addColumn<int>("width");
-    QTest::addColumn<double>("factor");
-    QTest::addColumn<int>("labelWidth");
-    QTest::addColumn<int>("boxLeft");
-    QTest::addColumn<int>("boxWidth");
-    QTest::newRow("default share") << 5000 << 0.6 << 2800 << 2900 << 2000;
-    QTest::newRow("no caption") << 5000 << 0.0 << 0 << 0 << 4900;
-    QTest::newRow("no box") << 5000 << 1.0 << 4800 << 4900 << 0;
-    QTest::newRow("too narrow for a caption") << 300 << 0.5 << 0 << 50 << 150;
-    QTest::newRow("caption of exactly no width") << 400 << 0.5 << 0 << 100 << 200;
-    QTest::newRow("shares are rounded to whole twips") << 3333 << 0.33 << 900 << 1000 << 2233;
-}
-
 void tst_field_rules::captionAndBoxShareTheWidth() {
-    QFETCH(int, width);
-    QFETCH(double, factor);
-    const LabelLayout::Parts parts = LabelLayout::layOut(Twips{width}, factor, {});
-    QTEST(int(parts.label.width.count), "labelWidth");
-    QTEST(int(parts.editor.left.count), "boxLeft");
-    QTEST(int(parts.editor.width.count), "boxWidth");
-    QCOMPARE(parts.height.count, 400);
-}
-
-void tst_field_rules::longCaptionMakesTheFieldHigher_data() {
-    QTest::addColumn<int>("captionWidth");
-    QTest::addColumn<int>("wrappedHeight");
-    QTest::addColumn<double>("factor");
-    QTest::addColumn<int>("labelTop");
-    QTest::addColumn<int>("height");
-    QTest::newRow("fits") << 2800 << 240 << 0.6 << 90 << 400;
-    QTest::newRow("wraps within the row") << 2801 << 390 << 0.6 << 0 << 400;
-    QTest::newRow("needs more than the row") << 4000 << 480 << 0.6 << 0 << 480;
-    QTest::newRow("a caption that is not shown needs nothing") << 4000 << 9000 << 0.0 << 90 << 400;
+    struct Row {
+        const char *name;
+        int width;
+        double factor;
+        QList<int> places; // width of the label, left and width of the box
+    };
+    const Row rows[] = {{"default share", 5000, 0.6, {2800, 2900, 2000}},
+                        {"no caption", 5000, 0.0, {0, 0, 4900}},
+                        {"no box", 5000, 1.0, {4800, 4900, 0}},
+                        {"too narrow for a caption", 300, 0.5, {0, 50, 150}},
+                        {"caption of exactly no width", 400, 0.5, {0, 100, 200}},
+                        {"shares are rounded to whole twips", 3333, 0.33, {900, 1000, 2233}}};
+    for (const auto &[name, width, factor, places] : rows) {
+        const LabelLayout::Parts parts = LabelLayout::layOut(Twips{width}, factor, {});
+        QVERIFY2((places == QList<int>{parts.label.width.count, parts.editor.left.count, parts.editor.width.count}),
+                 name);
+        QCOMPARE(parts.height.count, 400);
+    }
 }
 
 void tst_field_rules::longCaptionMakesTheFieldHigher() {
-    QFETCH(int, captionWidth);
-    QFETCH(int, wrappedHeight);
-    QFETCH(double, factor);
-    const auto parts = LabelLayout::layOut(Twips{5000}, factor, {{captionWidth}, {wrappedHeight}});
-    QTEST(int(parts.label.top.count), "labelTop");
-    QTEST(int(parts.height.count), "height");
-}
-
-void tst_field_rules::checkBoxStandsOnTheColumnLine_data() {
-    QTest::addColumn<int>("width");
-    QTest::addColumn<double>("factor");
-    QTest::addColumn<int>("caption");
-    QTest::addColumn<bool>("right");
-    QTest::addColumn<int>("left");
-    QTest::addColumn<int>("span");
-    QTest::newRow("captions right") << 5000 << 0.6 << 1000 << true << 1800 << 1300;
-    QTest::newRow("caption wider than its share") << 5000 << 0.2 << 1500 << true << 0 << 1100;
-    QTest::newRow("caption just fits its share") << 5000 << 0.2 << 1000 << true << 0 << 1300;
-    QTest::newRow("box alone, captions right") << 5000 << 0.0 << 150 << true << 0 << 450;
-    QTest::newRow("captions left") << 5000 << 0.6 << 1000 << false << 0 << 3090;
-    QTest::newRow("box alone, captions left") << 5000 << 0.0 << 150 << false << 0 << 4900;
+    struct Row {
+        const char *name;
+        TwipSize caption; // its width on one line, its height when it is wrapped
+        double factor;
+        int labelTop;
+        int height;
+    };
+    const Row rows[] = {{"fits", {{2800}, {240}}, 0.6, 90, 400},
+                        {"wraps within the row", {{2801}, {390}}, 0.6, 0, 400},
+                        {"needs more than the row", {{4000}, {480}}, 0.6, 0, 480},
+                        {"a caption that is not shown needs nothing", {{4000}, {9000}}, 0.0, 90, 400}};
+    for (const auto &[name, caption, factor, labelTop, height] : rows) {
+        const auto parts = LabelLayout::layOut(Twips{5000}, factor, {caption.width, caption.height});
+        QVERIFY2(parts.label.top.count == labelTop && parts.height.count == height, name);
+    }
 }
 
 void tst_field_rules::checkBoxStandsOnTheColumnLine() {
-    QFETCH(int, width);
-    QFETCH(double, factor);
-    QFETCH(int, caption);
-    QFETCH(bool, right);
-    const CheckLayout::Span span = CheckLayout::layOut({Twips{width}, factor, Twips{caption}, right});
-    QTEST(int(span.left.count), "left");
-    QTEST(int(span.width.count), "span");
-}
-
-void tst_field_rules::storedValueFindsItsItem_data() {
-    QTest::addColumn<QString>("map");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<int>("position");
-    const QString map = QStringLiteral("0|5|10");
-    QTest::newRow("first") << map << QStringLiteral("0") << 0;
-    QTest::newRow("middle") << map << QStringLiteral("5") << 1;
-    QTest::newRow("unknown value takes the last item") << map << QStringLiteral("7") << 2;
-    QTest::newRow("no value takes none") << map << QString() << -1;
-    QTest::newRow("compared as text") << map << QStringLiteral("05") << 2;
-    QTest::newRow("a single token") << QStringLiteral("3") << QStringLiteral("9") << 0;
-}
-
-void tst_field_rules::storedValueFindsItsItem() {
-    QFETCH(QString, map);
-    QFETCH(QString, value);
-    QTEST(int(ComboTransToUI(map, value)), "position");
-}
-
-void tst_field_rules::positionFindsItsStoredValue_data() {
-    QTest::addColumn<int>("position");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<bool>("fails");
-    QTest::newRow("first") << 0 << 0 << false;
-    QTest::newRow("last") << 2 << 10 << false;
-    QTest::newRow("nothing chosen") << -1 << 0 << true;
-    QTest::newRow("past the end") << 3 << 0 << true;
-}
-
-void tst_field_rules::positionFindsItsStoredValue() {
-    QFETCH(int, position);
-    QFETCH(bool, fails);
-    try {
-        const int value = ComboTransFromUI(QStringLiteral("0|5|10"), position);
-        QVERIFY(!fails);
-        QTEST(value, "value");
-    } catch (const RunTimeError &error) {
-        QVERIFY(fails);
-        QCOMPARE(error.Description, QStringLiteral("Error setting combo item value "));
+    struct Row {
+        const char *name;
+        double factor;
+        int caption;
+        bool right;
+        int left;
+        int span;
+    };
+    const Row rows[] = {{"captions right", 0.6, 1000, true, 1800, 1300},
+                        {"caption wider than its share", 0.2, 1500, true, 0, 1100},
+                        {"caption just fits its share", 0.2, 1000, true, 0, 1300},
+                        {"box alone, captions right", 0.0, 150, true, 0, 450},
+                        {"captions left", 0.6, 1000, false, 0, 3090},
+                        {"box alone, captions left", 0.0, 150, false, 0, 4900}};
+    for (const auto &[name, factor, caption, right, left, span] : rows) {
+        const CheckLayout::Span place = CheckLayout::layOut({Twips{5000}, factor, Twips{caption}, right});
+        QVERIFY2(place.left.count == left && place.width.count == span, name);
     }
 }
 
@@ -206,24 +143,6 @@ void tst_field_rules::firstLettersChooseAnItem() {
         index = c == u'<' ? typeAhead.backspace(items) : typeAhead.type(c, items);
     QTEST(index, "index");
     QTEST(typeAhead.empty(), "nothingLeft");
-}
-
-void tst_field_rules::payloadHasThreeParts_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("valid");
-    QTest::newRow("a field") << QStringLiteral("TxPower|fldComboField|High") << true;
-    QTest::newRow("no value") << QStringLiteral("TxPower|fldTextField|") << true;
-    QTest::newRow("a bar in the value") << QStringLiteral("Name|fldTextField|a|b") << false;
-    QTest::newRow("a frame without fields") << QStringLiteral("Details|fldFrame") << false;
-    QTest::newRow("any text") << QStringLiteral("hello") << false;
-}
-
-void tst_field_rules::payloadHasThreeParts() {
-    QFETCH(QString, text);
-    const auto payload = DragPayload::fromText(text);
-    QTEST(payload.has_value(), "valid");
-    if (payload)
-        QCOMPARE(payload->toText(), text);
 }
 
 void tst_field_rules::wrongPropertyIsRefusedByName_data() {
