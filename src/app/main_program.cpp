@@ -31,7 +31,8 @@ struct MainProgram::Parts {
           ownBoxes(translation, errorReport), ownFileDialogs(translation),
           boxes(replacements.boxes != nullptr ? *replacements.boxes : static_cast<MessageBoxes &>(ownBoxes)),
           fileDialogs(replacements.fileDialogs != nullptr ? *replacements.fileDialogs
-                                                          : static_cast<FileDialogs &>(ownFileDialogs)) {}
+                                                          : static_cast<FileDialogs &>(ownFileDialogs)),
+          makeComponent(replacements.component) {}
 
     ErrorReport &errors;
     QStringList arguments;
@@ -46,6 +47,7 @@ struct MainProgram::Parts {
     FormFactoryAdapter forms;
     SplashFront splash;
     OwnProcess processControl;
+    std::function<std::unique_ptr<Transformer>()> makeComponent;
     std::unique_ptr<Transformer> transformer;
     std::unique_ptr<frmMain> window;
 };
@@ -93,7 +95,9 @@ MainProgram::~MainProgram() {
 
 bool MainProgram::Start() {
     Parts &parts = *mParts;
-    parts.transformer = createTransformer(parts.boxes, parts.translation, parts.processControl, parts.errors);
+    parts.transformer = parts.makeComponent
+                            ? parts.makeComponent()
+                            : createTransformer(parts.boxes, parts.translation, parts.processControl, parts.errors);
     if (parts.transformer == nullptr)
         return false;
     parts.window = std::make_unique<frmMain>(
@@ -120,6 +124,6 @@ int MainProgram::Run() {
     return mParts->errors.HasReported() ? 1 : exitCode;
 }
 
-frmMain &MainProgram::Window() { return *mParts->window; }
+frmMain &MainProgram::Window() const { return *mParts->window; }
 
-Transformer &MainProgram::Component() { return *mParts->transformer; }
+Transformer &MainProgram::Component() const { return *mParts->transformer; }

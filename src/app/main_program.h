@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class ErrorReport;
@@ -14,6 +15,7 @@ class Transformer;
 struct ProgramReplacements {
     FileDialogs *fileDialogs = nullptr;
     MessageBoxes *boxes = nullptr;
+    std::function<std::unique_ptr<Transformer>()> component = {};
 };
 
 // The whole program, wired together: the one place where everything meets. Made after the application object.
@@ -29,8 +31,8 @@ class MainProgram {
     // Runs until the window has closed; the process's exit code.
     int Run();
     // Only after a successful Start().
-    [[nodiscard]] frmMain &Window();
-    [[nodiscard]] Transformer &Component();
+    [[nodiscard]] frmMain &Window() const;
+    [[nodiscard]] Transformer &Component() const;
 
   private:
     struct Parts;

@@ -12,7 +12,8 @@ struct Row {
     const char *className;
     QAccessible::Role role;
 };
-constexpr std::array kRoles{Row{"fldFrame", QAccessible::Grouping}, Row{"FrameBorder", QAccessible::Border}};
+constexpr std::array kRoles{Row{"fldFrame", QAccessible::Grouping}, Row{"FrameBorder", QAccessible::Border},
+                            Row{"QTabWidget", QAccessible::Pane}};
 
 QAccessibleInterface *makeInterface(const QString &className, QObject *object) {
     const auto *const row = std::find_if(kRoles.begin(), kRoles.end(), [&className](const Row &known) {

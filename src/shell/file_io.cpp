@@ -7,6 +7,7 @@
 #include "setting.h"
 #include "string_utilities.h"
 #include "transformer.h"
+#include "translation.h"
 #include "value_text.h"
 
 #include <QDateTime>
@@ -36,8 +37,8 @@ QString shownVersion(const QString &entry) { return entry.mid(entry.indexOf(u'.'
 } // namespace
 
 clsFileIO::clsFileIO(ProcessValues &process, DocumentShell &shell, FileDialogs &dialogs, MessageBoxes &boxes,
-                     ErrorReport &errors)
-    : mProcess(process), mShell(shell), mDialogs(dialogs), mBoxes(boxes), mErrors(errors) {}
+                     const Translation &translation, ErrorReport &errors)
+    : mProcess(process), mShell(shell), mDialogs(dialogs), mBoxes(boxes), mTranslation(translation), mErrors(errors) {}
 
 QString clsFileIO::GetExtensionFilter(const QString &extension) {
     for (const ExtensionLabel &known : kExtensions) {
@@ -200,5 +201,6 @@ ERROR_TAIL({})
 
 void clsFileIO::ErrorMessage(const QString &text, const QString &title) {
     mBoxes.TranslateMsgBox(text, MessageStyle::kOkOnly + MessageStyle::kCritical,
-                           ProductIdentity::title() + u' ' + title, QString());
+                           mTranslation.NLSStr(ProductIdentity::title()) + u' ' + mTranslation.NLSStr(title),
+                           QString());
 }

@@ -14,7 +14,7 @@ class ErrorReport;
 class clsFileIO {
   public:
     clsFileIO(ProcessValues &process, DocumentShell &shell, FileDialogs &dialogs, MessageBoxes &boxes,
-              ErrorReport &errors);
+              const Translation &translation, ErrorReport &errors);
 
     // Writes the data after FinalValidate: under strFileName, after a question where that exists and blnPrompt is
     // true, else under a name from the dialog.
@@ -44,11 +44,13 @@ class clsFileIO {
     bool saveThroughDialog(const FileDialogRequest &dialog);
     bool write(const QString &fileName, qint32 version);
     void keepFolder(const QString &fileName);
+    // The title stands behind the program's.
     void ErrorMessage(const QString &text, const QString &title);
 
     ProcessValues &mProcess;
     DocumentShell &mShell;
     FileDialogs &mDialogs;
     MessageBoxes &mBoxes;
+    const Translation &mTranslation;
     ErrorReport &mErrors;
 };

@@ -136,7 +136,7 @@ struct frmMain::Wiring {
     DocumentShellAdapter documentShell{
         {window, host, pane, nodes, filterTabs, navigation, formCommands, ticks, title, dialogs, loadFailure}};
     RecentFiles recentFiles{menu};
-    clsFileIO fileIO{with.process, documentShell, with.fileDialogs, with.boxes, with.errors};
+    clsFileIO fileIO{with.process, documentShell, with.fileDialogs, with.boxes, with.translation, with.errors};
     clsDocumentCommands documentCommands{with.process, documentShell, fileIO, recentFiles, with.boxes, with.errors};
     DocumentFront documents{documentCommands, fileIO, nodes};
     clsTalkToRadio radio{with.process, documentShell, with.boxes, with.errors,

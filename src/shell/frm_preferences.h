@@ -52,6 +52,9 @@ class frmPreferences final : public QDialog {
     void OKButton_Click();
     void cmdCancel_Click() { reject(); }
     void cmdDefaultAddress_Click();
+    // A port is taken as it is chosen: nothing hangs on it before OK.
+    void optCommPort_Click() {}
+    void cboComPort_Validate(bool & /*Cancel*/) {}
 
     Services mServices;
     ErrorReport &mErrors;

@@ -8,8 +8,10 @@
 #include "value_text.h"
 #include "window_input.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QToolButton>
 #include <QTreeWidget>
 
@@ -24,18 +26,35 @@ void writeLanguage(const QString &folder, qint32 language) {
         qFatal("no settings could be written");
     settings.write("[General]\nLanguage=" + QByteArray::number(language) + '\n');
 }
+
+// The pages stand beside the programs; a test is not there.
+void linkHelp() {
+    const QString here = QCoreApplication::applicationDirPath() + QStringLiteral("/kx4kp_en");
+    if (!QFileInfo::exists(here))
+        QFile::link(qEnvironmentVariable("KX4600_BIN") + QStringLiteral("/kx4kp_en"), here);
+}
+
+QPalette darkPalette() {
+    QPalette palette(QColor(53, 57, 62), QColor(40, 43, 47));
+    palette.setColor(QPalette::Highlight, QColor(42, 110, 190));
+    return palette;
+}
 } // namespace
 
-ProgramBench::ProgramBench(qint32 language) {
+ProgramBench::ProgramBench(const std::function<std::unique_ptr<Transformer>()> &component, qint32 language) {
     for (const char *name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
         qputenv(name, (mHome.path() + u'/' + QLatin1String(name)).toUtf8());
     writeLanguage(mHome.path() + QStringLiteral("/XDG_CONFIG_HOME/KX4600"), language);
-    mProgram = std::make_unique<MainProgram>(errors, QStringList(), ProgramReplacements{nullptr, &boxes});
+    linkHelp();
+    mProgram = std::make_unique<MainProgram>(errors, QStringList(),
+                                             ProgramReplacements{.boxes = &boxes, .component = component});
     if (!mProgram->Start())
         qFatal("the program did not start");
     window().resize(kWidth, kHeight);
     WindowInput::activate(window());
 }
+
+ProgramBench::ProgramBench(const QString &tier) : ProgramBench() { chooseTier(tier); }
 
 ProgramBench::~ProgramBench() = default;
 
@@ -49,6 +68,30 @@ void ProgramBench::chooseTier(const QString &key) {
     button->click();
     if (component().GetCurrentTier() != key)
         failTest(QStringLiteral("the tier is not ") + key);
+}
+
+std::vector<ProgramBench::Form> ProgramBench::forms() const {
+    QStringList tabs;
+    QStringList keys;
+    QStringList captions;
+    QStringList types;
+    QHash<QString, QString> tips;
+    QHash<QString, QVariant> levels;
+    QHash<QString, QVariant> networks;
+    component().GetTreeFilterTabs(tabs, tips, keys, captions, levels, networks, types);
+    std::vector<Form> result;
+    for (qsizetype place = 0; place < keys.size(); ++place) {
+        const QString name = QString(keys.at(place)).remove(QStringLiteral("->"));
+        if (window().CanOpen(name))
+            result.push_back({name, captions.at(place)});
+    }
+    return result;
+}
+
+void ProgramBench::open(const Form &form) const {
+    if (!window().OpenForm(form.typeName, form.caption, true))
+        failTest(QStringLiteral("%1 was not opened").arg(form.typeName));
+    QCoreApplication::processEvents();
 }
 
 bool ProgramBench::openForm(const QString &caption) {
@@ -80,6 +123,19 @@ Ifield *ProgramBench::field(const QString &name) const {
 
 QWidget *ProgramBench::widget(const QString &name) const { return dynamic_cast<QWidget *>(field(name)); }
 
+std::vector<Ifield *> ProgramBench::usableFields() const {
+    static const QStringList kTypes{QStringLiteral("fldTextField"), QStringLiteral("fldComboField"),
+                                    QStringLiteral("fldCheckboxField"), QStringLiteral("fldIdTrackerField")};
+    std::vector<Ifield *> fields;
+    for (const HostControl *candidate : form()->Iusrfrm_Controls()) {
+        Ifield *shown = candidate->object();
+        if (kTypes.contains(candidate->TypeName()) && shown->Ifield_GetVisible() && shown->Ifield_GetEnabled() &&
+            candidate->Enabled() && !shown->Ifield_GetUIIDNotFound())
+            fields.push_back(shown);
+    }
+    return fields;
+}
+
 QString ProgramBench::value(const QString &uiid, qint32 record) const {
     return ValueText::of(component().GetValue(uiid, record));
 }
@@ -89,4 +145,18 @@ void ProgramBench::setValue(const QString &uiid, qint32 record, const QVariant &
     component().SetValue(uiid, value, record, true, accepted);
     if (!accepted)
         failTest(QStringLiteral("%1 %2 was refused").arg(uiid, ValueText::of(value)));
+}
+
+void ProgramBench::picture(QWidget &widget, const QString &name) {
+    const QString folder = qEnvironmentVariable("KX4600_PICTURES");
+    if (folder.isEmpty())
+        return;
+    const QPalette own = QApplication::palette();
+    for (const auto &[palette, suffix] :
+         {std::pair(own, QString()), std::pair(darkPalette(), QStringLiteral("-dark"))}) {
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents();
+        widget.grab().save(folder + u'/' + name + suffix + QStringLiteral(".png"));
+    }
+    QApplication::setPalette(own);
 }

@@ -7,18 +7,24 @@
 #include <QTemporaryDir>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 class DataForm;
 class HostControl;
 class Ifield;
 class frmMain;
 
-// The whole program with its real component, started on data of its own: no settings, no journal. A message box that
-// the test does not expect fails it.
+// The whole program with its real component, started on data of its own: no settings, no journal, and the help pages of
+// the build. A message box that the test does not expect fails it.
 class ProgramBench {
   public:
-    explicit ProgramBench(qint32 language = 1);
+    // component: what stands in for the plug-in; none: the plug-in. language: as the setting counts them, 1 English.
+    explicit ProgramBench(const std::function<std::unique_ptr<Transformer>()> &component = {}, qint32 language = 1);
+    explicit ProgramBench(qint32 language) : ProgramBench({}, language) {}
+    // On a tier: "Basic", "Standard", "Advanced".
+    explicit ProgramBench(const QString &tier);
     ~ProgramBench();
     Q_DISABLE_COPY_MOVE(ProgramBench)
 
@@ -27,8 +33,16 @@ class ProgramBench {
 
     [[nodiscard]] frmMain &window() const;
     [[nodiscard]] Transformer &component() const;
-    // "Basic", "Standard", "Advanced".
     void chooseTier(const QString &key);
+
+    // The class names and captions of the forms in the tree.
+    struct Form {
+        QString typeName;
+        QString caption;
+    };
+    [[nodiscard]] std::vector<Form> forms() const;
+    // Opens it by its class name, whether it is available or not, and lets it lay itself out.
+    void open(const Form &form) const;
     // By its caption in the tree, with a click. False if the tree has no such node; fails the test if the click opened
     // something else.
     [[nodiscard]] bool openForm(const QString &caption);
@@ -38,6 +52,8 @@ class ProgramBench {
     [[nodiscard]] HostControl *control(const QString &name) const;
     [[nodiscard]] Ifield *field(const QString &name) const;
     [[nodiscard]] QWidget *widget(const QString &name) const;
+    // Those with a value that show and are enabled, in their order.
+    [[nodiscard]] std::vector<Ifield *> usableFields() const;
     // A part of a control, by its object name.
     template <class Part>
     [[nodiscard]] Part &part(const QString &control, const char *name) const {
@@ -51,6 +67,9 @@ class ProgramBench {
     [[nodiscard]] QString value(const QString &uiid, qint32 record = 1) const;
     // Fails the test if the component refuses it.
     void setValue(const QString &uiid, qint32 record, const QVariant &value) const;
+
+    // Writes pictures in light and dark where KX4600_PICTURES names a folder, for people to look at.
+    static void picture(QWidget &widget, const QString &name);
 
   private:
     QTemporaryDir mHome;

@@ -11,12 +11,15 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QTabWidget>
 #include <QTest>
 
 namespace {
 const auto kGrid = QStringLiteral("fldChannelsKX4600");
 const auto kRxFreq = QStringLiteral("RxFreq_q7r");
+const auto kStored = QStringLiteral("CurrentChannelNr");
 constexpr qint32 kRx = 1;
 
 QStringList megahertz(const QList<int> &numbers) {
@@ -50,6 +53,17 @@ class Channels : public ProgramBench {
         }
         return {};
     }
+    void showPage(int page) const {
+        form()->findChild<QTabWidget *>()->setCurrentIndex(page);
+        QCoreApplication::processEvents();
+    }
+    // On the detailed page.
+    void type(const QString &text) const {
+        auto &editor = part<QLineEdit>(kRxFreq, "Text1");
+        WindowInput::click(editor);
+        editor.selectAll();
+        WindowInput::type(text);
+    }
     void click(const char *button) const { WindowInput::click(part<QPushButton>(navigatorName(), button)); }
     [[nodiscard]] qint32 position() const {
         return dynamic_cast<Inavigator *>(field(navigatorName()))->Inavigator_Position();
@@ -78,6 +92,9 @@ class tst_grid_and_navigator final : public QObject {
     void theNavigatorDeletesTheSelectedRows();
     void keysCopyAndPaste();
     void aRefusedCellHoldsRowAndNavigator();
+    void valueOfOneIsShownByTheOther();
+    void refusedFieldHoldsBoth();
+    void reopenedFormComesBackToItsChannel();
 };
 
 void tst_grid_and_navigator::rowAndNavigatorFollowEachOther() {
@@ -87,6 +104,11 @@ void tst_grid_and_navigator::rowAndNavigatorFollowEachOther() {
     bench.click("cmdBack");
     QCOMPARE(bench.position(), 3);
     QCOMPARE(bench.table().Bookmark(), std::optional(2));
+    for (const char *button : {"cmdFirst", "cmdForward", "cmdLast", "cmdBack", "cmdBack"}) {
+        bench.click(button);
+        QCOMPARE(bench.table().Bookmark(), std::optional(bench.position() - 1));
+        QCOMPARE(bench.value(kStored), QString::number(bench.position()));
+    }
     for (HostControl *control : bench.form()->Iusrfrm_Controls()) {
         if (Ifield *field = control->object(); field != nullptr && field->Ifield_GetUIID() == kRxFreq)
             QCOMPARE(ValueText::of(field->Ifield_GetValue()), bench.value(kRxFreq, 3));
@@ -157,6 +179,55 @@ void tst_grid_and_navigator::aRefusedCellHoldsRowAndNavigator() {
     bench.clickCell(3, kRx);
     QCOMPARE(bench.position(), 4);
     QCOMPARE(bench.shownFrequencies(), megahertz({1, 2, 3, 4, 5}));
+}
+
+// What one of them keeps would be written back when it is left.
+void tst_grid_and_navigator::valueOfOneIsShownByTheOther() {
+    Channels bench;
+    bench.clickCell(2, kRx);
+    bench.showPage(1);
+    bench.type(QStringLiteral("155.500000"));
+    bench.click("cmdFirst");
+    bench.showPage(0);
+    bench.clickCell(2, kRx);
+    bench.clickCell(0, kRx);
+    bench.click("cmdFirst");
+    QCOMPARE(bench.value(kRxFreq, 3), QStringLiteral("155.500000"));
+    bench.clickCell(1, kRx);
+    WindowInput::type(QStringLiteral("156.500000"));
+    WindowInput::key(Qt::Key_Return);
+    bench.clickCell(0, kRx);
+    bench.clickCell(1, kRx);
+    bench.showPage(1);
+    QCOMPARE(bench.value(kRxFreq, 2), QStringLiteral("156.500000"));
+    QCOMPARE(ValueText::of(bench.field(kRxFreq)->Ifield_GetValue()), QStringLiteral("156.500000"));
+}
+
+void tst_grid_and_navigator::refusedFieldHoldsBoth() {
+    Channels bench;
+    bench.clickCell(2, kRx);
+    bench.showPage(1);
+    bench.type(QStringLiteral("999"));
+    for (const char *button : {"cmdFirst", "cmdAdd"}) {
+        bench.boxes.expect(QStringLiteral("%0:S must lie between %1:S and %2:S."), 1);
+        bench.click(button);
+    }
+    QCOMPARE(bench.table().Bookmark(), std::optional(2));
+    QCOMPARE(bench.value(kStored), QStringLiteral("3"));
+    QCOMPARE(bench.frequencies(), megahertz({1, 2, 3, 4, 5}));
+    bench.type(QStringLiteral("150"));
+    bench.click("cmdFirst");
+    QCOMPARE(bench.position(), 1);
+    QCOMPARE(bench.value(kRxFreq, 3), QStringLiteral("150.000000"));
+}
+
+void tst_grid_and_navigator::reopenedFormComesBackToItsChannel() {
+    Channels bench;
+    bench.clickCell(1, kRx);
+    QVERIFY(bench.openForm(QStringLiteral("Economy")));
+    QVERIFY(bench.openForm(QStringLiteral("Channels")));
+    QCOMPARE(bench.position(), 2);
+    QCOMPARE(bench.table().Bookmark(), std::optional(1));
 }
 
 QTEST_MAIN(tst_grid_and_navigator)

@@ -80,7 +80,7 @@ class DocumentBench {
     FakeDocumentShell shell{log};
     ScriptedFileDialogs dialogs{log};
     RecordingMenu menu;
-    clsFileIO files{services.process, shell, dialogs, services.boxes, services.errors};
+    clsFileIO files{services.process, shell, dialogs, services.boxes, services.translation, services.errors};
     clsDocumentCommands commands{services.process, shell, files, menu, services.boxes, services.errors};
 
     [[nodiscard]] QString path(const QString &name) const; // "" for ""

@@ -21,7 +21,6 @@ class tst_checkbox_and_frame final : public QObject {
   private Q_SLOTS:
     void clipboardTakesOnlyZeroOrOne_data();
     void clipboardTakesOnlyZeroOrOne();
-    void valueMustBeANumber_data();
     void valueMustBeANumber();
     void userTogglesByMouseAndBlankNotByEnter();
     void disabledBoxHearsNobodyButCode();
@@ -59,29 +58,24 @@ void tst_checkbox_and_frame::clipboardTakesOnlyZeroOrOne() {
     QCOMPARE(bench.takeHeard().size(), toggled ? 1 : 0); // told once, and only if it changed
 }
 
-void tst_checkbox_and_frame::valueMustBeANumber_data() {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<bool>("reported");
-    QTest::addColumn<int>("shown");
-    QTest::newRow("one") << QVariant(1) << false << 1;
-    QTest::newRow("text of a number") << QVariant(QStringLiteral("1")) << false << 1;
-    QTest::newRow("true of the boundary") << QVariant(-1) << false << 1;
-    QTest::newRow("zero") << QVariant(0) << false << 0;
-    QTest::newRow("undefined") << QVariant(QStringLiteral("Undefined")) << true << 0;
-    QTest::newRow("empty") << QVariant() << true << 0;
-}
-
 void tst_checkbox_and_frame::valueMustBeANumber() {
-    QFETCH(QVariant, value);
-    QFETCH(bool, reported);
-    FieldBench bench;
-    auto &field = bench.add<fldCheckboxField>(kName);
-    if (reported)
-        bench.services.errorSink.expectReport();
-    QCOMPARE(field.Ifield_SetValue(value, false), !reported);
-    QCOMPARE(!bench.services.errorSink.reports().isEmpty(), reported);
-    QTEST(field.Ifield_GetValue().toInt(), "shown");
-    QCOMPARE(bench.takeHeard(), QStringList());
+    struct Row {
+        QVariant value;
+        bool reported;
+        int shown;
+    };
+    const Row rows[] = {{1, false, 1}, {QStringLiteral("1"), false, 1},        {-1, false, 1},
+                        {0, false, 0}, {QStringLiteral("Undefined"), true, 0}, {QVariant(), true, 0}};
+    for (const auto &[value, reported, shown] : rows) {
+        FieldBench bench;
+        auto &field = bench.add<fldCheckboxField>(kName);
+        if (reported)
+            bench.services.errorSink.expectReport();
+        QCOMPARE(field.Ifield_SetValue(value, false), !reported);
+        QCOMPARE(!bench.services.errorSink.reports().isEmpty(), reported);
+        QCOMPARE(field.Ifield_GetValue().toInt(), shown);
+        QCOMPARE(bench.takeHeard(), QStringList());
+    }
 }
 
 void tst_checkbox_and_frame::userTogglesByMouseAndBlankNotByEnter() {

@@ -65,11 +65,9 @@ class tst_field_drag final : public QObject {
     void textFieldTakesOnlyItsOwnKind_data();
     void textFieldTakesOnlyItsOwnKind();
     void textFieldRefusesWhileItCannotBeEdited();
-    void droppedTextIsWrittenToTheShownRecord_data();
     void droppedTextIsWrittenToTheShownRecord();
     void refusedDropPutsTheOldTextBack();
     void listTakesAnyKindWhoseTextIsAnItem();
-    void checkBoxTakesZeroAndOne_data();
     void checkBoxTakesZeroAndOne();
     void frameTakesNothing();
     void dragStartsBehindTheThreshold_data();
@@ -109,24 +107,17 @@ void tst_field_drag::textFieldRefusesWhileItCannotBeEdited() {
     QVERIFY(!offer(labelOf(field), text));
 }
 
-void tst_field_drag::droppedTextIsWrittenToTheShownRecord_data() {
-    QTest::addColumn<int>("stream");
-    QTest::addColumn<QString>("call");
-    QTest::newRow("without a navigator") << 0 << QStringLiteral("SetValue(Target, new, 1, true)");
-    QTest::newRow("record 5 of a navigator") << 1 << QStringLiteral("SetValue(Target, new, 5, true)");
-}
-
 void tst_field_drag::droppedTextIsWrittenToTheShownRecord() {
-    QFETCH(int, stream);
-    FieldBench bench;
-    auto &field = bench.add<fldTextField>(kName, QVariantMap{{QStringLiteral("NavigatorStream"), stream}});
-    field.Ifield_SetRecordNumber(5);
-    (void)bench.log.take();
-    drop(labelOf(field), QStringLiteral("Other|fldTextField|new"));
-    const QStringList calls = bench.log.linesOf(QStringLiteral("SetValue"));
-    QCOMPARE(calls.size(), 1);
-    QTEST(calls.first(), "call");
-    QCOMPARE(field.Text(), QStringLiteral("new"));
+    for (const auto &[stream, record] : {std::pair(0, 1), std::pair(1, 5)}) {
+        FieldBench bench;
+        auto &field = bench.add<fldTextField>(kName, QVariantMap{{QStringLiteral("NavigatorStream"), stream}});
+        field.Ifield_SetRecordNumber(5);
+        (void)bench.log.take();
+        drop(labelOf(field), QStringLiteral("Other|fldTextField|new"));
+        QCOMPARE(bench.log.linesOf(QStringLiteral("SetValue")),
+                 QStringList(QStringLiteral("SetValue(Target, new, %1, true)").arg(record)));
+        QCOMPARE(field.Text(), QStringLiteral("new"));
+    }
 }
 
 void tst_field_drag::refusedDropPutsTheOldTextBack() {
@@ -154,24 +145,22 @@ void tst_field_drag::listTakesAnyKindWhoseTextIsAnItem() {
     QVERIFY(!offer(labelOf(field), QStringLiteral("Other|fldTextField|Low")));
 }
 
-void tst_field_drag::checkBoxTakesZeroAndOne_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("offered");
-    QTest::addColumn<int>("value");
-    QTest::newRow("one") << QStringLiteral("Other|fldCheckboxField|1") << true << 1;
-    QTest::newRow("two is offered but not taken") << QStringLiteral("Other|fldCheckboxField|2") << true << 0;
-    QTest::newRow("another kind") << QStringLiteral("Other|fldTextField|a") << false << 0;
-}
-
 void tst_field_drag::checkBoxTakesZeroAndOne() {
-    QFETCH(QString, text);
-    QFETCH(bool, offered);
-    FieldBench bench;
-    auto &field = bench.add<fldCheckboxField>(kName);
-    QCOMPARE(offer(checkOf(field), text), offered);
-    if (offered)
-        drop(checkOf(field), text);
-    QTEST(field.Ifield_GetValue().toInt(), "value");
+    struct Row {
+        const char *text;
+        bool offered;
+        int value;
+    };
+    for (const auto &[text, offered, value] :
+         {Row{"Other|fldCheckboxField|1", true, 1}, Row{"Other|fldCheckboxField|2", true, 0}, // offered, not taken
+          Row{"Other|fldTextField|a", false, 0}}) {
+        FieldBench bench;
+        auto &field = bench.add<fldCheckboxField>(kName);
+        QCOMPARE(offer(checkOf(field), QString::fromLatin1(text)), offered);
+        if (offered)
+            drop(checkOf(field), QString::fromLatin1(text));
+        QCOMPARE(field.Ifield_GetValue().toInt(), value);
+    }
 }
 
 void tst_field_drag::frameTakesNothing() {

@@ -98,16 +98,13 @@ class tst_focus_guard final : public QObject {
     void pressLeavesOnlyForWhatCanBeEntered_data();
     void pressLeavesOnlyForWhatCanBeEntered();
     void refusedPressIsEatenWhole();
-    void refusedTabKeepsTheFocus_data();
     void refusedTabKeepsTheFocus();
     void hostValidateRefusesBeforeTheFieldItself();
     void accessKeys_data();
     void accessKeys();
-    void refusedPageKeyKeepsThePage_data();
     void refusedPageKeyKeepsThePage();
     void focusMovedByCodeComesBack();
     void focusMovedByCodeMayLeave();
-    void disabledOrHiddenFieldIsNotAsked_data();
     void disabledOrHiddenFieldIsNotAsked();
     void menuAndOtherWindowAreNoLeaving();
     void messageBoxInsideTheSequenceIsIgnored();
@@ -165,25 +162,19 @@ void tst_focus_guard::refusedPressIsEatenWhole() {
     QVERIFY(desk.bench.takeHeard().endsWith(QStringLiteral("clicked")));
 }
 
-void tst_focus_guard::refusedTabKeepsTheFocus_data() {
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::newRow("Tab") << int(Qt::Key_Tab) << int(Qt::NoModifier);
-    QTest::newRow("Shift+Tab") << int(Qt::Key_Backtab) << int(Qt::ShiftModifier);
-}
-
 void tst_focus_guard::refusedTabKeepsTheFocus() {
-    QFETCH(int, key);
-    QFETCH(int, modifiers);
-    Desk desk;
-    desk.refuse(true);
-    WindowInput::key(Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-    QVERIFY(desk.stillInA());
-    QCOMPARE(desk.bench.takeHeard(), names({"a.Validate", "a.ManualValidate"}));
-    desk.refuse(false);
-    WindowInput::key(Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-    QVERIFY(!desk.stillInA());
-    QCOMPARE(desk.bench.takeHeard().count(QStringLiteral("a.ManualValidate")), 1);
+    for (const auto &[key, modifiers] :
+         {std::pair(Qt::Key_Tab, Qt::NoModifier), std::pair(Qt::Key_Backtab, Qt::ShiftModifier)}) {
+        Desk desk;
+        desk.refuse(true);
+        WindowInput::key(key, modifiers);
+        QVERIFY(desk.stillInA());
+        QCOMPARE(desk.bench.takeHeard(), names({"a.Validate", "a.ManualValidate"}));
+        desk.refuse(false);
+        WindowInput::key(key, modifiers);
+        QVERIFY(!desk.stillInA());
+        QCOMPARE(desk.bench.takeHeard().count(QStringLiteral("a.ManualValidate")), 1);
+    }
 }
 
 void tst_focus_guard::hostValidateRefusesBeforeTheFieldItself() {
@@ -219,26 +210,21 @@ void tst_focus_guard::accessKeys() {
     QCOMPARE(desk.tabs.currentIndex(), key == Qt::Key_T ? 1 : 0);
 }
 
-void tst_focus_guard::refusedPageKeyKeepsThePage_data() {
-    QTest::addColumn<int>("key");
-    QTest::newRow("Ctrl+Tab") << int(Qt::Key_Tab);
-    QTest::newRow("Ctrl+PageDown") << int(Qt::Key_PageDown);
-}
-
 void tst_focus_guard::refusedPageKeyKeepsThePage() {
-    QFETCH(int, key);
-    Desk desk;
-    auto &onPage = desk.bench.add<fldTextField>(QStringLiteral("page"), {}, desk.tabs.widget(0));
-    onPage.move(0, 0);
-    onPage.show();
-    onPage.Ifield_SetFocus();
-    QVERIFY(Desk::text(onPage).hasFocus());
-    desk.bench.takeHeard();
-    desk.bench.listener(QStringLiteral("page")).refuseManualValidate = true;
-    WindowInput::key(Qt::Key(key), Qt::ControlModifier);
-    QCOMPARE(desk.bench.takeHeard(), names({"page.Validate", "page.ManualValidate"}));
-    QCOMPARE(desk.tabs.currentIndex(), 0);
-    QVERIFY(Desk::text(onPage).hasFocus());
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_PageDown}) {
+        Desk desk;
+        auto &onPage = desk.bench.add<fldTextField>(QStringLiteral("page"), {}, desk.tabs.widget(0));
+        onPage.move(0, 0);
+        onPage.show();
+        onPage.Ifield_SetFocus();
+        QVERIFY(Desk::text(onPage).hasFocus());
+        desk.bench.takeHeard();
+        desk.bench.listener(QStringLiteral("page")).refuseManualValidate = true;
+        WindowInput::key(key, Qt::ControlModifier);
+        QCOMPARE(desk.bench.takeHeard(), names({"page.Validate", "page.ManualValidate"}));
+        QCOMPARE(desk.tabs.currentIndex(), 0);
+        QVERIFY(Desk::text(onPage).hasFocus());
+    }
 }
 
 void tst_focus_guard::focusMovedByCodeComesBack() {
@@ -260,23 +246,16 @@ void tst_focus_guard::focusMovedByCodeMayLeave() {
     QCOMPARE(desk.bench.takeHeard(), names({"a.Validate", "a.ManualValidate", "a.LostFocus"}));
 }
 
-void tst_focus_guard::disabledOrHiddenFieldIsNotAsked_data() {
-    QTest::addColumn<bool>("hidden");
-    QTest::newRow("disabled") << false;
-    QTest::newRow("hidden") << true;
-}
-
 void tst_focus_guard::disabledOrHiddenFieldIsNotAsked() {
-    QFETCH(bool, hidden);
-    Desk desk;
-    desk.refuse(true);
-    if (hidden)
-        desk.a.Ifield_SetInvisible();
-    else
-        desk.a.Ifield_SetDisabled();
-    const QStringList heard = desk.bench.takeHeard();
-    QCOMPARE(heard.value(0), QStringLiteral("a.LostFocus"));
-    QVERIFY(!heard.contains(QStringLiteral("a.Validate")));
+    for (void (fldTextField::*const goAway)() :
+         {&fldTextField::Ifield_SetInvisible, &fldTextField::Ifield_SetDisabled}) {
+        Desk desk;
+        desk.refuse(true);
+        (desk.a.*goAway)();
+        const QStringList heard = desk.bench.takeHeard();
+        QCOMPARE(heard.value(0), QStringLiteral("a.LostFocus"));
+        QVERIFY(!heard.contains(QStringLiteral("a.Validate")));
+    }
 }
 
 void tst_focus_guard::menuAndOtherWindowAreNoLeaving() {

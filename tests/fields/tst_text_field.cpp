@@ -26,7 +26,6 @@ class tst_text_field final : public QObject {
     void freshBoxIsEnabledUnlessReadOnly();
     void recordAndMaskComeFromTheComponent_data();
     void recordAndMaskComeFromTheComponent();
-    void undefinedIsNeverShown_data();
     void undefinedIsNeverShown();
     void keysGoThroughTheMask();
     void deleteKeyIsNotSwallowedByTheMask();
@@ -39,10 +38,8 @@ class tst_text_field final : public QObject {
     void editCommands();
     void copyOfSeveralLinesTakesTheHiddenBox();
     void unknownUiidEmptiesAndDisables();
-    void enablingForgetsTheUnknownUiid();
     void everyChangeOfTheTextIsTold();
     void terminatedFieldIsSilent();
-    void assistiveToolsGetNameAndHelp();
     void nameOfTwoLinesMakesTheHostHigher();
 };
 
@@ -133,22 +130,17 @@ void tst_text_field::recordAndMaskComeFromTheComponent() {
     QTEST(field.Text(), "shown");
 }
 
-void tst_text_field::undefinedIsNeverShown_data() {
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("shown");
-    QTest::newRow("undefined") << QVariant(QStringLiteral("Undefined")) << QString();
-    QTest::newRow("the word in another case is a text")
-        << QVariant(QStringLiteral("undefined")) << QStringLiteral("undefined");
-    QTest::newRow("empty") << QVariant() << QString();
-    QTest::newRow("a number") << QVariant(12.5) << QStringLiteral("12.5");
-}
-
 void tst_text_field::undefinedIsNeverShown() {
-    QFETCH(QVariant, value);
     FieldBench bench;
     auto &field = bench.add<fldTextField>(kName);
-    QVERIFY(field.Ifield_SetValue(value, false));
-    QTEST(field.Text(), "shown");
+    const std::pair<QVariant, QString> rows[] = {{QStringLiteral("Undefined"), {}},
+                                                 {QStringLiteral("undefined"), QStringLiteral("undefined")},
+                                                 {{}, {}},
+                                                 {12.5, QStringLiteral("12.5")}};
+    for (const auto &[value, shown] : rows) {
+        QVERIFY(field.Ifield_SetValue(value, false));
+        QCOMPARE(field.Text(), shown);
+    }
 }
 
 void tst_text_field::keysGoThroughTheMask() {
@@ -313,12 +305,6 @@ void tst_text_field::unknownUiidEmptiesAndDisables() {
     QVERIFY(!field.Ifield_GetEnabled());
     QVERIFY(field.Ifield_GetUIIDNotFound());
     QVERIFY(!bench.takeHeard().contains(QStringLiteral("RadioName.ManualValidate")));
-}
-
-void tst_text_field::enablingForgetsTheUnknownUiid() {
-    FieldBench bench;
-    auto &field = bench.add<fldTextField>(kName);
-    field.Ifield_UIIDNotFound();
     field.Ifield_SetEnabled();
     QVERIFY(!field.Ifield_GetUIIDNotFound());
 }
@@ -343,18 +329,6 @@ void tst_text_field::terminatedFieldIsSilent() {
     QVERIFY(field.MayLeave());
     field.FocusHasLeft();
     QCOMPARE(bench.takeHeard(), QStringList());
-}
-
-void tst_text_field::assistiveToolsGetNameAndHelp() {
-    FieldBench bench;
-    bench.component.when(QStringLiteral("GetHelpText"), kName).answers(QStringLiteral("Shown at start."));
-    auto &field = bench.add<fldTextField>(kName, Values{{QStringLiteral("LabelWidthFactor"), 0.0}});
-    field.Ifield_SetName(QStringLiteral("Radio &Name"));
-    field.Ifield_SetHelpID(1);
-    QCOMPARE(text1(field).accessibleName(), QStringLiteral("Radio Name"));
-    QCOMPARE(text1(field).accessibleDescription(), QStringLiteral("Shown at start."));
-    QCOMPARE(field.Ifield_GetName(), QStringLiteral("Radio &Name"));
-    QCOMPARE(label1(field).buddy(), &text1(field));
 }
 
 void tst_text_field::nameOfTwoLinesMakesTheHostHigher() {

@@ -1,6 +1,7 @@
 #include "window_input.h"
 
 #include <QApplication>
+#include <QPointer>
 #include <QTest>
 #include <QWidget>
 #include <QWindow>
@@ -22,6 +23,17 @@ QWindow *keyWindow() {
     if (const QWidget *popup = QApplication::activePopupWidget())
         return popup->windowHandle();
     return QGuiApplication::focusWindow();
+}
+
+// The press may close the window.
+void clickKey(Qt::Key key, Qt::KeyboardModifiers modifiers, char letter) {
+    const QPointer<QWindow> window = keyWindow();
+    const QString text = letter == 0 ? QString() : QString(QLatin1Char(letter));
+    for (const QEvent::Type event : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        if (window != nullptr)
+            qt_handleKeyEvent(window, event, key, modifiers, text);
+        QCoreApplication::processEvents();
+    }
 }
 } // namespace
 
@@ -61,10 +73,10 @@ void moveTo(const QWidget &widget, const QPoint &point) {
     QTest::mouseMove(spot.window, spot.point);
 }
 
-void key(Qt::Key key, Qt::KeyboardModifiers modifiers) { QTest::keyClick(keyWindow(), key, modifiers); }
+void key(Qt::Key key, Qt::KeyboardModifiers modifiers) { clickKey(key, modifiers, QTest::keyToAscii(key)); }
 
 void type(const QString &text) {
     for (const QChar c : text)
-        QTest::keyClick(keyWindow(), c.toLatin1());
+        clickKey(QTest::asciiToKey(c.toLatin1()), Qt::NoModifier, c.toLatin1());
 }
 } // namespace WindowInput

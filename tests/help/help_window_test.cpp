@@ -1,5 +1,5 @@
 #include "cls_help.h"
-#include "help_bench.h"
+#include "frm_main.h"
 #include "help_browser.h"
 #include "help_commands.h"
 #include "help_file_name.h"
@@ -8,6 +8,7 @@
 #include "ifield.h"
 #include "message_style.h"
 #include "mod_common_help.h"
+#include "program_bench.h"
 #include "recording_transformer.h"
 #include "test_services.h"
 #include "transformer.h"
@@ -145,7 +146,7 @@ void HelpWindowTest::viewerSearchesByKeyboard() {
     window.setAttribute(Qt::WA_DeleteOnClose, false);
     window.ShowContents();
     WindowInput::activate(window);
-    HelpBench::picture(window, QStringLiteral("help-contents"));
+    ProgramBench::picture(window, QStringLiteral("help-contents"));
     WindowInput::key(Qt::Key_F, Qt::ControlModifier);
     QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("txtHelpSearch"));
     WindowInput::type(QStringLiteral("tone period"));
@@ -155,7 +156,7 @@ void HelpWindowTest::viewerSearchesByKeyboard() {
     QVERIFY(hits->count() > 1);
     WindowInput::key(Qt::Key_Return);
     QCOMPARE(window.Place(), QStringLiteral("usrctlSelcallToneSettings.html#TonePeriod"));
-    HelpBench::picture(window, QStringLiteral("help-form"));
+    ProgramBench::picture(window, QStringLiteral("help-form"));
     WindowInput::key(Qt::Key_Down);
     WindowInput::key(Qt::Key_Down);
     QCOMPARE(window.Place(), hits->item(1)->data(Qt::UserRole).toString());
@@ -166,9 +167,9 @@ void HelpWindowTest::viewerSearchesByKeyboard() {
 }
 
 void HelpWindowTest::keysLeadToTheFieldOnEachForm() {
-    HelpBench bench;
+    const ProgramBench bench(QStringLiteral("Advanced"));
     int seen = 0;
-    for (const HelpBench::Form &form : bench.forms()) {
+    for (const ProgramBench::Form &form : bench.forms()) {
         bench.open(form);
         std::vector<Ifield *> fields = bench.usableFields();
         fields.resize(std::min<std::size_t>(fields.size(), 3));
@@ -193,7 +194,7 @@ void HelpWindowTest::keysLeadToTheFieldOnEachForm() {
 }
 
 void HelpWindowTest::whatsThisModeEndsWithAClick() {
-    HelpBench bench;
+    const ProgramBench bench(QStringLiteral("Advanced"));
     bench.open({QStringLiteral("usrctlEconomyKX4600"), QStringLiteral("Economy")});
     auto *field = dynamic_cast<QWidget *>(bench.usableFields().front());
     bool shown = false;
@@ -204,7 +205,7 @@ void HelpWindowTest::whatsThisModeEndsWithAClick() {
         QTest::mouseClick(field->findChild<QLineEdit *>(), Qt::LeftButton);
         shown = smallWindow() != nullptr;
         if (shown)
-            HelpBench::picture(*smallWindow(), QStringLiteral("help-whats-this"));
+            ProgramBench::picture(*smallWindow(), QStringLiteral("help-whats-this"));
         QWhatsThis::leaveWhatsThisMode();
         click.stop();
     });
@@ -217,7 +218,7 @@ void HelpWindowTest::whatsThisModeEndsWithAClick() {
 }
 
 void HelpWindowTest::commandsOpenContentsAndFormPage() {
-    HelpBench bench;
+    const ProgramBench bench(QStringLiteral("Advanced"));
     QCOMPARE(bench.component().GetSetting(QStringLiteral("HelpFile"), QString()).toString(),
              QStringLiteral("kx4kp_en.chm"));
     bench.open({QStringLiteral("usrctlStartupKX4600"), QStringLiteral("Start-up")});

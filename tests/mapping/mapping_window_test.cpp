@@ -1,11 +1,12 @@
 #include "cls_control_item.h"
 #include "field_event.h"
+#include "frm_main.h"
 #include "frm_mapping_gen.h"
-#include "help_bench.h"
 #include "ifield.h"
 #include "mapping_shell.h"
 #include "message_style.h"
 #include "process_values.h"
+#include "program_bench.h"
 #include "transformer.h"
 #include "translation.h"
 #include "value_text.h"
@@ -45,7 +46,7 @@ class MappingWindowTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void initTestCase() { mBench = std::make_unique<HelpBench>(); }
+    void initTestCase() { mBench = std::make_unique<ProgramBench>(QStringLiteral("Advanced")); }
     void cleanupTestCase() { mBench.reset(); }
     void init();
     void hiddenEntryOpensByKey();
@@ -61,7 +62,7 @@ class MappingWindowTest : public QObject {
     [[nodiscard]] QPlainTextEdit &box(const char *name) const {
         return *mWindow->findChild<QPlainTextEdit *>(QString::fromLatin1(name));
     }
-    std::unique_ptr<HelpBench> mBench;
+    std::unique_ptr<ProgramBench> mBench;
     std::unique_ptr<PreparedShell> mShell;
     std::unique_ptr<frmMappingGen> mWindow;
     Translation mTranslation;
@@ -83,7 +84,7 @@ void MappingWindowTest::hiddenEntryOpensByKey() {
     WindowInput::key(Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
     auto *opened = mBench->window().findChild<frmMappingGen *>();
     QVERIFY(opened != nullptr && opened->isVisible());
-    HelpBench::picture(*opened, QStringLiteral("mapping"));
+    ProgramBench::picture(*opened, QStringLiteral("mapping"));
     opened->close();
 }
 

@@ -1,11 +1,12 @@
 #include "find_field_search.h"
 #include "frm_about.h"
 #include "frm_find_field.h"
+#include "frm_main.h"
 #include "help_about_windows.h"
-#include "help_bench.h"
 #include "ifield.h"
 #include "process_values.h"
 #include "product_identity.h"
+#include "program_bench.h"
 #include "transformer.h"
 #include "window_input.h"
 
@@ -23,7 +24,7 @@ class FindFieldTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void initTestCase() { mBench = std::make_unique<HelpBench>(); }
+    void initTestCase() { mBench = std::make_unique<ProgramBench>(QStringLiteral("Advanced")); }
     void cleanupTestCase() { mBench.reset(); }
     void lines_data();
     void lines();
@@ -42,7 +43,7 @@ class FindFieldTest : public QObject {
     static bool choose(const frmFindField &window, const QString &line);
     [[nodiscard]] bool isAvailable(const QString &caption) const;
 
-    std::unique_ptr<HelpBench> mBench;
+    std::unique_ptr<ProgramBench> mBench;
 };
 
 frmFindField &FindFieldTest::find(const QString &text) {
@@ -106,8 +107,8 @@ void FindFieldTest::searchKnowsNoCaseAndLeavesNothingBehind() {
 
 void FindFieldTest::emptySearchFindsTheFieldsOfEveryForm() {
     const frmFindField &window = find(QString());
-    HelpBench::picture(const_cast<frmFindField &>(window), QStringLiteral("find-field"));
-    for (const HelpBench::Form &form : mBench->forms())
+    ProgramBench::picture(const_cast<frmFindField &>(window), QStringLiteral("find-field"));
+    for (const ProgramBench::Form &form : mBench->forms())
         QVERIFY2(!output(window).findItems(form.caption + QStringLiteral(" - "), Qt::MatchStartsWith).isEmpty(),
                  qPrintable(form.caption));
 }
@@ -121,7 +122,7 @@ bool FindFieldTest::isAvailable(const QString &caption) const {
 
 void FindFieldTest::eachUsableFieldIsFoundByItsLabelAndLandedOn() {
     int landed = 0;
-    for (const HelpBench::Form &form : mBench->forms()) {
+    for (const ProgramBench::Form &form : mBench->forms()) {
         if (!isAvailable(form.caption))
             continue;
         mBench->open(form);
@@ -145,7 +146,7 @@ void FindFieldTest::eachUsableFieldIsFoundByItsLabelAndLandedOn() {
         }
     }
     QVERIFY2(landed > 40, qPrintable(QString::number(landed)));
-    HelpBench::picture(mBench->window(), QStringLiteral("find-landed"));
+    ProgramBench::picture(mBench->window(), QStringLiteral("find-landed"));
 }
 
 void FindFieldTest::aFieldThatTheModelLacksIsTold() {
@@ -182,7 +183,7 @@ void FindFieldTest::aboutTellsVersionsAndAccess() {
     mBench->window().findChild<QAction *>(QStringLiteral("mnuAccessLevelOption(2)"))->trigger();
     QTimer::singleShot(0, &mBench->window(), [&seen] {
         QWidget *about = QApplication::activeModalWidget();
-        HelpBench::picture(*about, QStringLiteral("about"));
+        ProgramBench::picture(*about, QStringLiteral("about"));
         for (const char *name : {"lblCaption", "lblVersion", "lblAccessLevel"})
             seen += about->findChild<QLabel *>(QString::fromLatin1(name))->text() + u'\n';
         const auto *files = about->findChild<QListWidget *>(QStringLiteral("List1"));
@@ -202,7 +203,7 @@ void FindFieldTest::creditsEndWithAClick() {
     bool clicked = false;
     QTimer::singleShot(0, &mBench->window(), [&clicked] {
         QWidget *credits = QApplication::activeModalWidget();
-        HelpBench::picture(*credits, QStringLiteral("credits"));
+        ProgramBench::picture(*credits, QStringLiteral("credits"));
         QTest::mouseClick(credits->findChild<QLabel *>(QStringLiteral("Label2")), Qt::LeftButton);
         clicked = true;
     });

@@ -211,8 +211,30 @@ void LifecycleTest::tierChangeIsRefusedByAnInvalidForm() {
     QVERIFY(shell.log.linesOf(QStringLiteral("ChangeTier")).isEmpty());
     QVERIFY(shell.find<QToolButton>(QStringLiteral("A"))->isChecked());
     shell.forms.enabler->valid = true;
+    static_cast<void>(shell.log.take());
     shell.find<QAction>(QStringLiteral("mnuItemsModel(2)"))->trigger();
-    QCOMPARE(shell.log.linesOf(QStringLiteral("ChangeTier")), QStringList(QStringLiteral("ChangeTier(B)")));
+    const QStringList select{QStringLiteral("SetCurrentFormName(Specifications)"),
+                             QStringLiteral("SetCurrentFormTreeNode(1)"),
+                             QStringLiteral("GetFormAvailable(usrctlSpec, Specifications)"),
+                             QStringLiteral("GetFormIsDirty()"),
+                             QStringLiteral("RevertFormData(A)"),
+                             QStringLiteral("Form.Terminate()")};
+    const QStringList expected =
+        QStringList{QStringLiteral("Enabler.ForceSaveToCurrentField()"),
+                    QStringLiteral("Enabler.OKToLeaveForm()"),
+                    QStringLiteral("Enabler.ValidateForm(true)"),
+                    QStringLiteral("SaveForm(A)"),
+                    QStringLiteral("ChangeTier(B)"),
+                    QStringLiteral("GetRadioModel()"),
+                    QStringLiteral("SaveSetting(Helpfile, kx4kp_en.chm)"),
+                    QStringLiteral("GetTreeFilterTabs()"),
+                    QStringLiteral("RefreshFormList()")} +
+        select + formCalls("usrctlSpec", "Specifications", 1) +
+        QStringList{QStringLiteral("SetAccessLevel(80)"), QStringLiteral("SaveSetting(PreviousAccessLevel, 0)"),
+                    QStringLiteral("GetDatabaseVersion()"), QStringLiteral("GetLoadFailed()"),
+                    QStringLiteral("GetCurrentFormName()")} +
+        select + formCalls("usrctlSpec", "Specifications", 1);
+    QCOMPARE(shell.takeMainCalls(), expected);
 }
 
 void LifecycleTest::outOfMemoryWhileAFormIsBuiltIsSurvived() {

@@ -22,7 +22,7 @@ class TierOperations;
 
 // The component: every operation of the contract as a call of the collaborator whose matter it is. Errors travel to the
 // caller as RunTimeError.
-class TransformerComponent final : public Transformer {
+class TransformerComponent : public Transformer {
   public:
     // clipboard: gives the text that ImportRecordByPaste takes; none pastes nothing.
     explicit TransformerComponent(const ComponentPlaces &places, std::function<QString()> clipboard = {});
