@@ -7,5 +7,6 @@ namespace FigureGroups {
 void component(Figures &figures); // dictionary, model, files, checks, grids
 void process(Figures &figures);   // kx4600ctl as a whole process
 void window(Figures &figures);    // the real window, offscreen, in processes of its own
+void report(Figures &figures);    // the printed report of full data, and the searches
 void radio(Figures &figures);     // over the simulated radio as a process of its own
 } // namespace FigureGroups

@@ -19,6 +19,7 @@ constexpr std::array kGroups{
     Group{"component", "dictionary, model, files, checks and grids", FigureGroups::component},
     Group{"process", "kx4600ctl as a whole process", FigureGroups::process},
     Group{"window", "starts of the real window, its forms and keystrokes, offscreen", FigureGroups::window},
+    Group{"report", "all records of full data as PDF; find field and search of the help", FigureGroups::report},
     Group{"radio", "a full radio of each tier over the simulated radio; takes some minutes", FigureGroups::radio},
 };
 
