@@ -20,6 +20,7 @@ constexpr std::array kGroups{
     Group{"process", "kx4600ctl as a whole process", FigureGroups::process},
     Group{"window", "starts of the real window, its forms and keystrokes, offscreen", FigureGroups::window},
     Group{"grid", "the channels form with 2,000 channels, offscreen", FigureGroups::grid},
+    Group{"report", "all records of full data as PDF; find field and search of the help", FigureGroups::report},
     Group{"radio", "a full radio of each tier over the simulated radio; takes some minutes", FigureGroups::radio},
     Group{"repaint", "the real window while a full radio is programmed and read", FigureGroups::repaint},
 };

@@ -54,7 +54,7 @@ ERROR_TAIL()
 qint32 HelpCommands::activeTopic() const {
     const auto enabler = mProcess.colEnablers.Item(mProcess.CurrentEnablerKey);
     const auto item = enabler == nullptr ? nullptr : enabler->Ienabler_GetActiveControl();
-    return item == nullptr || item->Terminated() ? 0 : item->Field().Ifield_GetHelpID();
+    return item == nullptr || item->Terminated() ? 0 : mTexts.NumberOf(item->Field());
 }
 
 bool HelpCommands::Form_KeyDown(int KeyCode, Qt::KeyboardModifiers Shift) try {

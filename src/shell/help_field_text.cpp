@@ -1,6 +1,7 @@
 #include "help_field_text.h"
 
 #include "currency.h"
+#include "ifield.h"
 #include "transformer.h"
 #include "translation.h"
 
@@ -25,6 +26,11 @@ QString HelpFieldText::Of(const QString &UIID) const {
     if (!unit.isEmpty() && unit != QStringLiteral("units"))
         text += line(QStringLiteral("Unit"), mTranslation.NLSStr(unit));
     return text;
+}
+
+qint32 HelpFieldText::NumberOf(const Ifield &field) const {
+    const qint32 own = field.Ifield_GetHelpID();
+    return own != 0 ? own : mTransformer.GetHelpID(field.Ifield_GetUIID());
 }
 
 QString HelpFieldText::line(const QString &word, const QString &text) const {

@@ -2,6 +2,7 @@
 
 #include <QString>
 
+class Ifield;
 class Transformer;
 class Translation;
 
@@ -13,6 +14,9 @@ class HelpFieldText {
 
     // Label, help, limits and unit as markup; "" for a field that the component does not know.
     [[nodiscard]] QString Of(const QString &UIID) const;
+
+    // The topic that the field was given, else that of what it shows: a grid has none before a cell is entered.
+    [[nodiscard]] qint32 NumberOf(const Ifield &field) const;
 
     // A link that leads to a topic of the help, for the end of such a text.
     [[nodiscard]] QString Link(qint32 number) const;

@@ -48,7 +48,7 @@ void HelpWhatsThis::ShowWhatsThisHelp(qint32 HelpContextID) try {
     QWidget *widget = QApplication::focusWidget();
     const Ifield *field = fieldAt(widget);
     const QString text =
-        field != nullptr && field->Ifield_GetHelpID() == HelpContextID ? mTexts.Of(field->Ifield_GetUIID()) : QString();
+        field != nullptr && mTexts.NumberOf(*field) == HelpContextID ? mTexts.Of(field->Ifield_GetUIID()) : QString();
     if (text.isEmpty())
         mShowTopic(HelpContextID);
     else
@@ -106,16 +106,17 @@ bool HelpWhatsThis::eventFilter(QObject *watched, QEvent *event) {
 
 bool HelpWhatsThis::answer(QObject *widget, QEvent &event) {
     const Ifield *field = fieldAt(widget);
-    if (field == nullptr || field->Ifield_GetHelpID() == 0)
+    const qint32 number = field == nullptr ? 0 : mTexts.NumberOf(*field);
+    if (number == 0)
         return false;
     event.accept();
     if (event.type() == QEvent::WhatsThis) {
         const QString text = mTexts.Of(field->Ifield_GetUIID());
         const QPoint place = static_cast<QHelpEvent &>(event).globalPos();
         if (text.isEmpty())
-            mShowTopic(field->Ifield_GetHelpID());
+            mShowTopic(number);
         else
-            show(place, text, field->Ifield_GetHelpID(), static_cast<QWidget *>(widget));
+            show(place, text, number, static_cast<QWidget *>(widget));
     }
     return true;
 }

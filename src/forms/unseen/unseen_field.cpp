@@ -20,7 +20,6 @@ bool UnseenField::Ifield_SetValue(const QVariant &Value, bool /*blnValidate*/) {
 void UnseenField::Ifield_SetEnabled() {
     mEnabled = true;
     mShown = true;
-    mNotFound = false;
 }
 
 void UnseenField::Ifield_SetDisabled() {

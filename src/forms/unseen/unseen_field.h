@@ -19,7 +19,9 @@ class UnseenField : public UnseenControl, public Ifield, public ComboItems, publ
     bool Ifield_GetVisible() const override { return mShown; }
     qint32 Ifield_GetHelpID() const override { return 0; }
     void Ifield_GetUIIDNotFound(bool NewUIIDNotFound) override { mNotFound = NewUIIDNotFound; }
-    bool Ifield_GetUIIDNotFound() const override { return mNotFound; }
+    bool Ifield_GetUIIDNotFound() const override { return mNotFound || mUnknown; }
+    // The component has no such field in the present tier, whatever it tells later.
+    void SetUnknown() { mUnknown = true; }
     QVariant Ifield_GetValue() override { return mValue; }
     void Ifield_SetHelpID(qint32 /*HelpID*/) override {}
     void Ifield_SetWhatsThisHelpID(qint32 /*HelpID*/) override {}
@@ -60,5 +62,6 @@ class UnseenField : public UnseenControl, public Ifield, public ComboItems, publ
     bool mEnabled = true;
     bool mShown = true;
     bool mNotFound = false;
+    bool mUnknown = false;
     std::shared_ptr<clsControlItem> mWrapper;
 };

@@ -2,6 +2,8 @@
 
 #include "ctl_form_enabler.h"
 #include "form_definition.h"
+#include "process_values.h"
+#include "transformer.h"
 #include "translation.h"
 #include "unseen_grid.h"
 #include "unseen_navigator.h"
@@ -43,8 +45,13 @@ std::unique_ptr<UnseenControl> UnseenForm::make(const FormDefinition &definition
     }
     case FieldType::Other:
         return std::make_unique<UnseenControl>(control, container, placed.tabIndex);
-    default:
-        return std::make_unique<UnseenField>(control, container, placed.tabIndex);
+    default: {
+        auto field = std::make_unique<UnseenField>(control, container, placed.tabIndex);
+        const QString uiid = field->Ifield_GetUIID();
+        if (!uiid.isEmpty() && mServices.process.objTransformer->GetLabel(uiid).isEmpty())
+            field->SetUnknown();
+        return field;
+    }
     }
 }
 
