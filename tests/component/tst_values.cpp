@@ -32,6 +32,7 @@ class tst_values : public QObject {
     void updatesStayAwayWhileSwitchedOff();
     void listenerMayLeaveDuringAnEvent();
     void unknownUiidIsNoError();
+    void onlyAFieldOfTheTierIsUndefined();
     void focusShowsLimitsOfNumbersOnly();
     void positionIsNoEdit();
     void gridRefreshWaitsForTheCommandAndTheBatch();
@@ -265,6 +266,15 @@ void tst_values::unknownUiidIsNoError() {
     QCOMPARE(mListener->log.size(), 5);
     QCOMPARE(mComponent->GetHelpText(id), QString());
     QCOMPARE(mListener->log.size(), 5);
+}
+
+// Greying an undefined value comes before hiding, and there are no scan groups in new data.
+void tst_values::onlyAFieldOfTheTierIsUndefined() {
+    const QString id = QStringLiteral("DisableDeferredCallingOnThisGroup");
+    mComponent->ChangeTier(QStringLiteral("Standard"));
+    QCOMPARE(get(id), ValueText::undefined());
+    mComponent->ChangeTier(QStringLiteral("Basic"));
+    QCOMPARE(get(id), QString());
 }
 
 void tst_values::focusShowsLimitsOfNumbersOnly() {

@@ -110,8 +110,10 @@ QVariant FieldQueries::GetValue(const QString &uiid, qint32 recordNr) {
     }
     const std::optional<StoredValue> value =
         FieldReader(mState.current()).value(field->index, mState.address(field->structure, recordNr));
-    if (!value)
-        return ValueText::undefined();
+    if (!value) { // a window greys an undefined value before it looks whether the tier has the field at all
+        const bool hidden = field->levelIn(mState.tier()) == FieldDefinition::kNever;
+        return hidden ? QString() : ValueText::undefined();
+    }
     return field->kind == FieldKind::Derived || field->kind == FieldKind::Reference ||
                    field->kind == FieldKind::RecordNumber
                ? QVariant(FieldReader(mState.current()).shown(field->index, mState.address(field->structure, recordNr)))
