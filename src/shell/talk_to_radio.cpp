@@ -32,7 +32,11 @@ void clsTalkToRadio::TalkToRadio(InterrogationType type) try {
     if (RadioModels::IsCalibration(transformer.GetRadioModel()))
         openCalibrationForm(type != InterrogationType::kRead);
     mProgressWindow(type);
-    if (mProcess.objTransformer != nullptr && mProcess.objTransformer->GetLoadFailed())
+    if (mProcess.objTransformer == nullptr)
+        return;
+    if (type == InterrogationType::kRead)
+        mShell.NameRadioInTitle();
+    if (mProcess.objTransformer->GetLoadFailed())
         mShell.FailedToLoadDLL(QStringLiteral("VornComms/Ttimer1.exe"));
 }
 ERROR_TAIL()

@@ -11,12 +11,18 @@
 WindowTitle::WindowTitle(QWidget &window, Transformer &transformer, const Translation &translation, ErrorReport &errors)
     : mWindow(window), mTransformer(transformer), mTranslation(translation), mErrors(errors) {}
 
-void WindowTitle::SetUIFormTitle() try {
-    const QString file = mTransformer.GetFileName();
-    const QString data = file.isEmpty() ? RadioModels::RadioName(mTransformer) : file;
+void WindowTitle::SetUIFormTitle() try { show(mTransformer.GetFileName()); }
+ERROR_TAIL()
+
+void WindowTitle::NameRadio() try {
+    if (mTransformer.GetFileName().isEmpty())
+        show(RadioModels::RadioName(mTransformer));
+}
+ERROR_TAIL()
+
+void WindowTitle::show(const QString &data) {
     QString title = data.isEmpty() ? QString() : data + QStringLiteral(" - ");
     title += mTranslation.NLSStr(ProductIdentity::title());
     title += QStringLiteral(" (") + ProductIdentity::shortVersion() + QStringLiteral(")");
     mWindow.setWindowTitle(title);
 }
-ERROR_TAIL()

@@ -1,6 +1,7 @@
 #pragma once
 
 class ErrorReport;
+class QString;
 class QWidget;
 class Transformer;
 class Translation;
@@ -10,8 +11,12 @@ class WindowTitle {
   public:
     WindowTitle(QWidget &window, Transformer &transformer, const Translation &translation, ErrorReport &errors);
     void SetUIFormTitle();
+    // Names the radio where the present data come from one and from no file, until the next SetUIFormTitle.
+    void NameRadio();
 
   private:
+    void show(const QString &data);
+
     QWidget &mWindow;
     Transformer &mTransformer;
     const Translation &mTranslation;

@@ -29,12 +29,12 @@ const Case kCases[] = {
      .steps = "window(0)"},
     {.fault = "a read of a clean form asks nothing",
      .type = InterrogationType::kRead,
-     .steps = "shell.FocusFormTree(); shell.SaveForm(); window(1)"},
+     .steps = "shell.FocusFormTree(); shell.SaveForm(); window(1); shell.NameRadioInTitle()"},
     {.fault = "a read without a form asks nothing",
      .type = InterrogationType::kRead,
      .formLoaded = false,
      .formDirty = true,
-     .steps = "shell.FocusFormTree(); shell.SaveForm(); window(1)"},
+     .steps = "shell.FocusFormTree(); shell.SaveForm(); window(1); shell.NameRadioInTitle()"},
     {.fault = "a program run saves the form without a question",
      .type = InterrogationType::kProgram,
      .formDirty = true,
@@ -54,7 +54,7 @@ const Case kCases[] = {
      .model = "KX4700 HPM Trigger Base",
      .steps = "shell.FocusFormTree(); shell.SaveForm(); "
               "shell.OpenForm(usrctlCalSpecifications, Specifications, false); shell.SelectNode(1); "
-              "SetCurrentFormName(USRCTLCALSPECIFICATIONS); window(1)"},
+              "SetCurrentFormName(USRCTLCALSPECIFICATIONS); window(1); shell.NameRadioInTitle()"},
     {.fault = "calibration: a form that is not available is not opened",
      .type = InterrogationType::kProgram,
      .model = "KX4700 Trigger Base",
