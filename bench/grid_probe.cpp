@@ -7,7 +7,7 @@
 #include "tdb_grid.h"
 #include "transformer.h"
 #include "window_input.h"
-#include "window_services.h"
+#include "yes_boxes.h"
 
 #include <QElapsedTimer>
 #include <QHeaderView>
@@ -21,20 +21,6 @@
 namespace {
 constexpr qint32 kRx = 1;
 constexpr qint32 kDeleted = 500;
-
-// Nobody is there to answer: Yes, or OK where there is no choice.
-class YesBoxes final : public MessageBoxes {
-  public:
-    qint32 MsgBox(const QString &Text, qint32 Buttons, const QString & /*Title*/) override {
-        constexpr qint32 kButtonBits = 7;
-        std::fprintf(stderr, "box: %s\n", qUtf8Printable(Text));
-        return (Buttons & kButtonBits) == 0 ? 1 : 6;
-    }
-    qint32 TranslateMsgBox(const QString &Prompt, qint32 Buttons, const QString &Title,
-                           const QString & /*Parameters*/) override {
-        return MsgBox(Prompt, Buttons, Title);
-    }
-};
 
 // The channels form of the whole program, its grid with the focus.
 class ChannelGrid {

@@ -2,8 +2,8 @@
 #include "frm_main.h"
 #include "main_application.h"
 #include "main_program.h"
-#include "message_style.h"
 #include "transformer.h"
+#include "yes_boxes.h"
 
 #include <QAction>
 #include <QElapsedTimer>
@@ -48,18 +48,6 @@ class Pulse final : public QWidget {
     QElapsedTimer mSinceLast;
     double mLongest = 0;
     int mPaints = 0;
-};
-
-class YesBoxes final : public MessageBoxes {
-  public:
-    qint32 MsgBox(const QString &Text, qint32 /*Buttons*/, const QString & /*Title*/) override {
-        std::fprintf(stderr, "box: %s\n", qUtf8Printable(Text));
-        return MessageAnswer::kYes;
-    }
-    qint32 TranslateMsgBox(const QString &Prompt, qint32 Buttons, const QString &Title,
-                           const QString & /*Parameters*/) override {
-        return MsgBox(Prompt, Buttons, Title);
-    }
 };
 } // namespace
 

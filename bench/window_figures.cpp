@@ -1,11 +1,8 @@
 #include "figure_groups.h"
 
-#include "bench_component.h"
-#include "full_data.h"
+#include "full_file.h"
+#include "probe.h"
 #include "run_time_error.h"
-
-#include <QElapsedTimer>
-#include <QProcess>
 
 #include <algorithm>
 #include <vector>
@@ -17,48 +14,6 @@ const QString kMs = QStringLiteral("ms");
 const QString kMiB = QStringLiteral("MiB");
 constexpr double kMostMemory = 60;
 
-// One line of the probe.
-struct Line {
-    QString what;
-    QString name;
-    double value;
-};
-
-// Runs the probe in folders of its own.
-class Probe {
-  public:
-    // Milliseconds from the start of the process until it says "shown"; the lines are kept.
-    double run(const QStringList &words) {
-        mLines.clear();
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        for (const char *name : {"XDG_STATE_HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
-            environment.insert(QString::fromLatin1(name), mFolder.path());
-        environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        process.setProcessEnvironment(environment);
-        QElapsedTimer timer;
-        timer.start();
-        process.start(qEnvironmentVariable("KX4600_BIN") + QStringLiteral("/kx4600windowprobe"), words);
-        const bool shown = process.waitForReadyRead();
-        const double milliseconds = double(timer.nsecsElapsed()) / 1e6;
-        const bool ended = process.waitForFinished(kPatience) && process.exitCode() == 0;
-        const QString said = QString::fromUtf8(process.readAllStandardOutput());
-        if (!shown || !ended)
-            throw RunTimeError(ErrorNumber::kBadArgument, process.program(),
-                               QString::fromUtf8(process.readAllStandardError()));
-        for (const QString &line : said.split(u'\n', Qt::SkipEmptyParts))
-            mLines.push_back({line.section(u'\t', 0, 0), line.section(u'\t', 1, 1), line.section(u'\t', 2).toDouble()});
-        return milliseconds;
-    }
-    [[nodiscard]] const std::vector<Line> &lines() const { return mLines; }
-
-  private:
-    static constexpr int kPatience = 120000;
-
-    QTemporaryDir mFolder;
-    std::vector<Line> mLines;
-};
-
 double medianStart(Probe &probe, const QStringList &words) {
     constexpr int kStarts = 7;
     std::vector<double> times;
@@ -69,21 +24,24 @@ double medianStart(Probe &probe, const QStringList &words) {
     return times[kStarts / 2];
 }
 
-void addLines(Figures &figures, const std::vector<Line> &lines) {
+void addLines(Figures &figures, const std::vector<Probe::Line> &lines) {
     constexpr double kForm = 30;
     constexpr double kChannelForm = 60;
     constexpr double kKey = 16;
     QStringList refused;
-    for (const Line &line : lines) {
-        if (line.what == QStringLiteral("form"))
-            figures.add(QStringLiteral("open the form ") + line.name, line.value, kMs,
-                        atMost(line.name == QStringLiteral("Channels") ? kChannelForm : kForm));
-        else if (line.what == QStringLiteral("refused"))
-            refused.append(QString::number(line.value));
-        else if (line.what == QStringLiteral("key"))
-            figures.add(QStringLiteral("keystroke to repaint, median of 21"), line.value, kMs, atMost(kKey));
-        else if (line.what == QStringLiteral("memory"))
-            figures.add(QStringLiteral("peak memory, full file ") + line.name, line.value, kMiB, atMost(kMostMemory));
+    for (const Probe::Line &line : lines) {
+        const QString what = line.value(0);
+        const QString name = line.value(1);
+        const double value = line.value(2).toDouble();
+        if (what == QStringLiteral("form"))
+            figures.add(QStringLiteral("open the form ") + name, value, kMs,
+                        atMost(name == QStringLiteral("Channels") ? kChannelForm : kForm));
+        else if (what == QStringLiteral("refused"))
+            refused.append(QString::number(value));
+        else if (what == QStringLiteral("key"))
+            figures.add(QStringLiteral("keystroke to repaint, median of 21"), value, kMs, atMost(kKey));
+        else if (what == QStringLiteral("memory"))
+            figures.add(QStringLiteral("peak memory, full file ") + name, value, kMiB, atMost(kMostMemory));
     }
     if (!refused.isEmpty())
         throw RunTimeError(ErrorNumber::kBadArgument, QStringLiteral("forms refused, by their nodes"),
@@ -92,19 +50,12 @@ void addLines(Figures &figures, const std::vector<Line> &lines) {
 } // namespace
 
 void FigureGroups::window(Figures &figures) {
-    BenchComponent bench;
-    bench.transformer.ChangeTier(QStringLiteral("Advanced"));
-    FullData(bench.transformer).fill();
-    const QString file = bench.folder.filePath(QStringLiteral("full.k4p"));
-    bool saved = false;
-    bench.transformer.SaveFile(file, QString(), 0, saved);
-    if (!saved)
-        throw RunTimeError(ErrorNumber::kBadArgument, file, QStringLiteral("it was not saved"));
-    Probe probe;
+    const FullFile file;
+    Probe probe(QStringLiteral("kx4600windowprobe"));
     figures.add(QStringLiteral("start to the first form"), medianStart(probe, {QStringLiteral("start")}), kMs,
                 atMost(120));
-    figures.add(QStringLiteral("start with a full file"), medianStart(probe, {QStringLiteral("start"), file}), kMs,
-                atMost(200));
-    (void)probe.run({QStringLiteral("forms"), file});
+    figures.add(QStringLiteral("start with a full file"), medianStart(probe, {QStringLiteral("start"), file.path()}),
+                kMs, atMost(200));
+    (void)probe.run({QStringLiteral("forms"), file.path()});
     addLines(figures, probe.lines());
 }
