@@ -12,6 +12,11 @@ RowHeads::RowHeads(const RowBlock &block, QWidget *parent) : QHeaderView(Qt::Ver
     setDefaultAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
+// The last number is the widest; to measure two hundred of them at each refill would be the greatest part of it.
+QSize RowHeads::sizeHint() const {
+    return count() == 0 ? QHeaderView::sizeHint() : sectionSizeFromContents(count() - 1);
+}
+
 void RowHeads::mousePressEvent(QMouseEvent *event) {
     const int row = logicalIndexAt(event->position().toPoint());
     mExtending = false;

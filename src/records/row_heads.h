@@ -12,6 +12,8 @@ class RowHeads final : public QHeaderView {
     // The block outlives this.
     RowHeads(const RowBlock &block, QWidget *parent);
 
+    [[nodiscard]] QSize sizeHint() const override;
+
   Q_SIGNALS:
     void blockAsked(const RowBlock &block);
 

@@ -6,8 +6,21 @@
 
 #include <QLocale>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+
+namespace {
+// Only digits, sign, point and exponent: toDouble would also take "inf" and "nan".
+bool hasOnlyNumberCharacters(QStringView text) {
+    return std::ranges::all_of(text,
+                               [](QChar c) { return (c >= u'0' && c <= u'9') || QStringView(u"+-.eE").contains(c); });
+}
+
+std::optional<double> finiteOrNone(double number) {
+    return std::isfinite(number) ? std::optional(number) : std::nullopt;
+}
+} // namespace
 
 namespace ValueText {
 QString of(const QVariant &value) {
@@ -16,6 +29,8 @@ QString of(const QVariant &value) {
     switch (value.typeId()) {
     case QMetaType::Bool:
         return value.toBool() ? QStringLiteral("-1") : QStringLiteral("0");
+    case QMetaType::Int:
+        return QString::number(value.toInt());
     case QMetaType::Double:
     case QMetaType::Float:
         return QString::number(value.toDouble(), 'g', QLocale::FloatingPointShortest);
@@ -28,23 +43,26 @@ QString of(const QVariant &value) {
 }
 
 std::optional<double> number(const QVariant &value) {
-    if (!value.isValid())
+    switch (value.typeId()) {
+    case QMetaType::UnknownType:
         return std::nullopt;
-    if (value.typeId() == QMetaType::Bool)
+    case QMetaType::Bool:
         return value.toBool() ? -1.0 : 0.0;
-    QString text = TrimBlanks(of(value));
-    text.replace(DecimalSymbol(), QStringLiteral("."));
-    // Only digits, sign, point and exponent: toDouble would also take "inf" and "nan".
-    for (const QChar c : text) {
-        const bool isNumberCharacter = (c >= u'0' && c <= u'9') || QStringView(u"+-.eE").contains(c);
-        if (!isNumberCharacter)
-            return std::nullopt;
+    case QMetaType::Int:
+        return value.toInt();
+    case QMetaType::Double:
+        return finiteOrNone(value.toDouble());
+    default:
+        break;
     }
+    QString text = TrimBlanks(of(value));
+    if (!hasOnlyNumberCharacters(text))
+        text.replace(DecimalSymbol(), QStringLiteral("."));
+    if (!hasOnlyNumberCharacters(text))
+        return std::nullopt;
     bool ok = false;
     const double result = QLocale::c().toDouble(text, &ok);
-    if (!ok || !std::isfinite(result))
-        return std::nullopt;
-    return result;
+    return ok ? finiteOrNone(result) : std::nullopt;
 }
 
 bool isNumeric(const QVariant &value) { return number(value).has_value(); }
@@ -63,12 +81,13 @@ qint32 toIntegerOr(const QVariant &value, qint32 fallback) {
     const std::optional<double> parsed = number(value);
     const bool fits =
         parsed && *parsed >= std::numeric_limits<qint32>::min() && *parsed <= std::numeric_limits<qint32>::max();
-    return fits ? toInteger(value) : fallback;
+    return fits ? qint32(std::nearbyint(*parsed)) : fallback;
 }
 
 QString undefined() { return QStringLiteral("Undefined"); }
 
 bool isUndefined(const QVariant &value) {
-    return value.typeId() == QMetaType::QString && value.toString() == undefined();
+    return value.typeId() == QMetaType::QString &&
+           *static_cast<const QString *>(value.constData()) == QLatin1StringView("Undefined");
 }
 } // namespace ValueText

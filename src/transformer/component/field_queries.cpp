@@ -108,16 +108,20 @@ QVariant FieldQueries::GetValue(const QString &uiid, qint32 recordNr) {
         mState.raiseNotFound(uiid);
         return ValueText::undefined();
     }
-    const std::optional<StoredValue> value =
-        FieldReader(mState.current()).value(field->index, mState.address(field->structure, recordNr));
+    return valueOf(*field, recordNr);
+}
+
+QVariant FieldQueries::valueOf(const FieldDefinition &field, qint32 recordNr) {
+    const FieldReader reader(mState.current());
+    const RecordAddress record = mState.address(field.structure, recordNr);
+    const std::optional<StoredValue> value = reader.value(field.index, record);
     if (!value) { // a window greys an undefined value before it looks whether the tier has the field at all
-        const bool hidden = field->levelIn(mState.tier()) == FieldDefinition::kNever;
+        const bool hidden = field.levelIn(mState.tier()) == FieldDefinition::kNever;
         return hidden ? QString() : ValueText::undefined();
     }
-    return field->kind == FieldKind::Derived || field->kind == FieldKind::Reference ||
-                   field->kind == FieldKind::RecordNumber
-               ? QVariant(FieldReader(mState.current()).shown(field->index, mState.address(field->structure, recordNr)))
-               : ValueCodec::boundary(*field, *value);
+    const bool isFound =
+        field.kind == FieldKind::Derived || field.kind == FieldKind::Reference || field.kind == FieldKind::RecordNumber;
+    return isFound ? QVariant(reader.shown(field.index, record)) : ValueCodec::boundary(field, *value);
 }
 
 qint32 FieldQueries::GetNumberOfRecords(const QString &uiid) {

@@ -27,6 +27,8 @@ class FieldQueries {
     [[nodiscard]] qint32 GetMaxValue(const QString &uiid);
     [[nodiscard]] Currency GetStepValue(const QString &uiid);
     [[nodiscard]] QVariant GetValue(const QString &uiid, qint32 recordNr);
+    // GetValue of a field that has been found.
+    [[nodiscard]] QVariant valueOf(const FieldDefinition &field, qint32 recordNr);
     [[nodiscard]] qint32 GetNumberOfRecords(const QString &uiid);
     [[nodiscard]] QStringList GetDatabaseFieldList() const;
     void FieldGotFocus(const QString &uiid);

@@ -77,7 +77,10 @@ void ListQueries::GetGridData(const QString &uiidList, XArrayDB &array, qint32 r
     array.Clear();
     array.ReDim(to - from, qint32(uiids.size()) - 1);
     for (qint32 column = 0; column < qint32(uiids.size()); ++column) {
+        const QString &uiid = uiids[column];
+        const FieldDefinition *field = mState.dictionary.find(uiid);
         for (qint32 record = from; record <= to; ++record)
-            array.SetValue(record - from, column, mFields.GetValue(uiids[column], record));
+            array.SetValue(record - from, column,
+                           field == nullptr ? mFields.GetValue(uiid, record) : mFields.valueOf(*field, record));
     }
 }
