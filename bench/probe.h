@@ -14,7 +14,8 @@ class Probe {
 
     explicit Probe(const QString &program);
 
-    // Milliseconds from the start of the process until it says its first line or ends. Raises RunTimeError when it fails.
+    // Milliseconds from the start of the process until it says its first line or ends. Raises RunTimeError when it
+    // fails.
     double run(const QStringList &words, const QString &ports = {});
     // Of the last run.
     [[nodiscard]] const std::vector<Line> &lines() const { return mLines; }

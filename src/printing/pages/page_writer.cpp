@@ -5,7 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <ranges>
+#include <numeric>
 #include <utility>
 
 namespace {
@@ -87,10 +87,12 @@ qsizetype PageWriter::fitting(const QString &text, double width) const {
         return charactersIn(width);
     if (mSink.TextWidth(text) <= width)
         return text.size();
-    const auto lengths = std::views::iota(qsizetype(1), text.size());
-    const auto tooLong =
-        std::ranges::partition_point(lengths, [&](qsizetype n) { return mSink.TextWidth(text.first(n)) <= width; });
-    return std::max<qsizetype>(1, tooLong - lengths.begin());
+    qsizetype fits = 1;
+    for (qsizetype tooLong = text.size(); tooLong - fits > 1;) {
+        const qsizetype middle = std::midpoint(fits, tooLong);
+        (mSink.TextWidth(text.first(middle)) <= width ? fits : tooLong) = middle;
+    }
+    return fits;
 }
 
 void PageWriter::PrintALine(const QString &text, bool bold) {
