@@ -87,9 +87,9 @@ void tst_XArrayDB::outsideRaisesNine() {
         return 0;
     };
     // The last one is a cell of the next row where rows stand behind each other.
-    for (const auto &[row, column] : {std::pair(-1, 0), std::pair(2, 0), std::pair(0, -1), std::pair(0, 3)}) {
-        QCOMPARE(numberOf([&] { (void)array.Value(row, column); }), ErrorNumber::kIndexOutOfRange);
-        QCOMPARE(numberOf([&] { array.SetValue(row, column, 1); }), ErrorNumber::kIndexOutOfRange);
+    for (const auto &cell : {std::pair(-1, 0), std::pair(2, 0), std::pair(0, -1), std::pair(0, 3)}) {
+        QCOMPARE(numberOf([&] { (void)array.Value(cell.first, cell.second); }), ErrorNumber::kIndexOutOfRange);
+        QCOMPARE(numberOf([&] { array.SetValue(cell.first, cell.second, 1); }), ErrorNumber::kIndexOutOfRange);
     }
     QCOMPARE(numberOf([&] { array.DeleteRow(2); }), ErrorNumber::kIndexOutOfRange);
     QCOMPARE(numberOf([&] { array.InsertRow(3); }), ErrorNumber::kIndexOutOfRange);

@@ -36,7 +36,8 @@ void RuleEvaluatorTest::aRuleFollowsItsFields_data() {
     QTest::addColumn<qint32>("number");
     QTest::addColumn<Settings>("settings");
     QTest::addColumn<bool>("enabled");
-    const auto row = [](const char *name, const char *id, RecordAddress record, Settings settings, bool enabled) {
+    const auto row = [](const char *name, const char *id, RecordAddress record, const Settings &settings,
+                        bool enabled) {
         QTest::newRow(name) << QString::fromLatin1(id) << record.parent << record.number << settings << enabled;
     };
     const StoredValue abc(QStringLiteral("ABC"));
