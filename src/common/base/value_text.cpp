@@ -87,7 +87,6 @@ qint32 toIntegerOr(const QVariant &value, qint32 fallback) {
 QString undefined() { return QStringLiteral("Undefined"); }
 
 bool isUndefined(const QVariant &value) {
-    return value.typeId() == QMetaType::QString &&
-           *static_cast<const QString *>(value.constData()) == QLatin1StringView("Undefined");
+    return value.typeId() == QMetaType::QString && *static_cast<const QString *>(value.constData()) == undefined();
 }
 } // namespace ValueText
