@@ -104,7 +104,7 @@ bool MainProgram::Start() {
         ShellServices{*parts.transformer, parts.process, parts.translation, parts.errors, parts.boxes, parts.clipboard,
                       parts.forms, parts.fileDialogs, parts.splash, parts.processControl,
                       [&parts](InterrogationType type, QWidget *owner) {
-                          runRadioOperation(parts.process, parts.translation, parts.errors, type, owner);
+                          return runRadioOperation(parts.process, parts.translation, parts.errors, type, owner);
                       },
                       parts.arguments});
     askAtSessionEnd(*parts.window);

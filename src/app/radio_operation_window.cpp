@@ -22,17 +22,17 @@ QString portName(Transformer &transformer) {
 }
 } // namespace
 
-void runRadioOperation(ProcessValues &process, const Translation &translation, ErrorReport &errors,
+bool runRadioOperation(ProcessValues &process, const Translation &translation, ErrorReport &errors,
                        InterrogationType type, QWidget *owner) {
     const auto runOnce = [&](InterrogationType operation) {
         frmProgressInfo window(process, translation, errors, operation, portName(*process.objTransformer), owner);
         window.exec();
-        return RadioContact{.answered = window.RadioAnswered(), .noRadio = window.NoRadio()};
+        return RadioContact{.answered = window.RadioAnswered(), .read = window.Result(), .noRadio = window.NoRadio()};
     };
     const auto choose = [&](const QString &problem, int storedNumber) {
         const SerialPorts ports;
         frmPortChoice window(translation, ports, problem, storedNumber, owner);
         return window.exec() == QDialog::Accepted ? window.PortNumber() : 0;
     };
-    RadioPortSearch(process, runOnce, choose).Run(type);
+    return RadioPortSearch(process, runOnce, choose).Run(type);
 }

@@ -31,7 +31,7 @@ class DocumentShell {
     virtual void SelectFirstFilterTab() = 0;
 
     virtual void SetUIFormTitle() = 0;
-    virtual void NameRadioInTitle() = 0;
+    virtual void NameRadio() = 0;
     // The shell's own question, which the user can switch off: then the answer is 6, yes.
     virtual qint32 GeneralDialog(const QString &Prompt, qint32 Buttons, const QString &Title,
                                  const QString &strParameters) = 0;

@@ -52,7 +52,7 @@ void DocumentShellAdapter::SelectFirstFilterTab() {
 }
 
 void DocumentShellAdapter::SetUIFormTitle() { mParts.title.SetUIFormTitle(); }
-void DocumentShellAdapter::NameRadioInTitle() { mParts.title.NameRadio(); }
+void DocumentShellAdapter::NameRadio() { mParts.title.NameRadio(); }
 
 qint32 DocumentShellAdapter::GeneralDialog(const QString &Prompt, qint32 Buttons, const QString &Title,
                                            const QString &strParameters) {

@@ -46,7 +46,7 @@ class DocumentShellAdapter final : public DocumentShell {
     [[nodiscard]] QString NodeText(qint32 index) const override;
     void SelectFirstFilterTab() override;
     void SetUIFormTitle() override;
-    void NameRadioInTitle() override;
+    void NameRadio() override;
     qint32 GeneralDialog(const QString &Prompt, qint32 Buttons, const QString &Title,
                          const QString &strParameters) override;
     void FailedToLoadDLL(const QString &DllName) override;

@@ -23,6 +23,12 @@ FormTreeWidget::FormTreeWidget(QWidget *parent) : QTreeWidget(parent) {
 
 void FormTreeWidget::SetFileDropTarget(FileDropTarget *target) { mFileDropTarget = target; }
 
+void FormTreeWidget::SetHeading(const QString &text) {
+    setHeaderLabel(text);
+    headerItem()->setToolTip(0, text);
+    setHeaderHidden(text.isEmpty());
+}
+
 void FormTreeWidget::keyPressEvent(QKeyEvent *event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         Q_EMIT NodeChosen();

@@ -22,6 +22,8 @@ class FormTreeWidget final : public QTreeWidget {
     explicit FormTreeWidget(QWidget *parent);
     // Files dropped on the tree go there; null: none are taken. Not owned.
     void SetFileDropTarget(FileDropTarget *target);
+    // A line over the nodes that says what they belong to; empty: none.
+    void SetHeading(const QString &text);
 
   Q_SIGNALS:
     // FormTree_NodeClick, FormTree_DblClick and FormTree_KeyPress with Enter.

@@ -27,7 +27,7 @@ struct ShellServices {
     SplashWindow &splash;
     ProcessControl &processControl;
     // Runs a radio operation in its modal window.
-    std::function<void(InterrogationType, QWidget *owner)> progressWindow;
+    std::function<bool(InterrogationType, QWidget *owner)> progressWindow;
     // The command line without the program's name.
     QStringList arguments;
 };

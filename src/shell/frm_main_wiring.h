@@ -79,7 +79,6 @@ struct frmMain::Wiring {
     UserEvents userEvents{pointer, inputFilter};
     ComponentDialogs dialogs{with.transformer, with.boxes, with.translation, pointer, window, with.errors};
     LoadFailure loadFailure{with.boxes, with.translation, with.processControl, with.errors};
-    WindowTitle title{window, with.transformer, with.translation, with.errors};
     WindowPosition position{window, with.transformer, with.errors};
 
     // Menus, bars and panels; the window owns the widgets
@@ -106,6 +105,7 @@ struct frmMain::Wiring {
     // Tree and panes
     TierButtons &tierButtons{*new TierButtons(&area)};
     FormTreeWidget &tree{*new FormTreeWidget(&area)};
+    WindowTitle title{window, tree, with.transformer, with.translation, with.errors};
     FormNodes nodes{tree, with.transformer, with.translation, with.errors};
     FilterTabs filterTabs{&area, with.transformer, with.translation, with.errors};
     SplitterBar &splitter{*new SplitterBar(&area)};
@@ -140,7 +140,7 @@ struct frmMain::Wiring {
     clsDocumentCommands documentCommands{with.process, documentShell, fileIO, recentFiles, with.boxes, with.errors};
     DocumentFront documents{documentCommands, fileIO, nodes};
     clsTalkToRadio radio{with.process, documentShell, with.boxes, with.errors,
-                         [this](InterrogationType type) { with.progressWindow(type, &window); }};
+                         [this](InterrogationType type) { return with.progressWindow(type, &window); }};
     LocalDownloader downloader;
     clsDownloadCommand download{with.process, downloader, with.boxes, with.errors};
     PrintCommands print{forForms, {with.forms, nodes, host, pointer}, window};

@@ -12,17 +12,19 @@ const QString kPort = QStringLiteral("CommPortNumber");
 RadioPortSearch::RadioPortSearch(const ProcessValues &process, OperationWindow window, PortChoice choice)
     : mProcess(process), mWindow(std::move(window)), mChoice(std::move(choice)) {}
 
-void RadioPortSearch::Run(InterrogationType type) {
+bool RadioPortSearch::Run(InterrogationType type) {
     RadioContact contact = mWindow(type);
+    const bool read = contact.read;
     int tried = 0;
     while (!contact.noRadio.isEmpty() && mProcess.objTransformer != nullptr) {
         if (tried == 0)
             tried = Setting::integer(*mProcess.objTransformer, kPort, 1);
         tried = mChoice(contact.noRadio, tried);
         if (tried == 0)
-            return;
+            break;
         contact = interrogate(tried);
     }
+    return read;
 }
 
 // The component takes the port from the settings, so the chosen one stands there while it is tried.

@@ -10,6 +10,7 @@
 // How the window of one radio operation ended.
 struct RadioContact {
     bool answered = false; // a radio has told what it is
+    bool read = false;     // its data are now the present ones
     QString noRadio;       // why none could be reached, translated; "" otherwise
 };
 
@@ -23,7 +24,8 @@ class RadioPortSearch {
 
     RadioPortSearch(const ProcessValues &process, OperationWindow window, PortChoice choice);
 
-    void Run(InterrogationType type);
+    // True if a radio was read.
+    bool Run(InterrogationType type);
 
   private:
     [[nodiscard]] RadioContact interrogate(int port);

@@ -31,11 +31,11 @@ void clsTalkToRadio::TalkToRadio(InterrogationType type) try {
     Transformer &transformer = *mProcess.objTransformer;
     if (RadioModels::IsCalibration(transformer.GetRadioModel()))
         openCalibrationForm(type != InterrogationType::kRead);
-    mProgressWindow(type);
+    const bool read = mProgressWindow(type);
     if (mProcess.objTransformer == nullptr)
         return;
-    if (type == InterrogationType::kRead)
-        mShell.NameRadioInTitle();
+    if (read)
+        mShell.NameRadio();
     if (mProcess.objTransformer->GetLoadFailed())
         mShell.FailedToLoadDLL(QStringLiteral("VornComms/Ttimer1.exe"));
 }

@@ -13,8 +13,8 @@ class ErrorReport;
 // while one is being prepared or runs does nothing.
 class clsTalkToRadio {
   public:
-    // Shows the modal progress window of an operation and returns when it has closed.
-    using ProgressWindow = std::function<void(InterrogationType)>;
+    // Shows the modal progress window of an operation and returns when it has closed; true if a radio was read.
+    using ProgressWindow = std::function<bool(InterrogationType)>;
 
     clsTalkToRadio(ProcessValues &process, DocumentShell &shell, MessageBoxes &boxes, ErrorReport &errors,
                    ProgressWindow progressWindow);

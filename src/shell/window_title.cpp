@@ -1,22 +1,31 @@
 #include "window_title.h"
 
 #include "common_error_handler.h"
+#include "form_tree_widget.h"
 #include "product_identity.h"
 #include "radio_models.h"
 #include "transformer.h"
 #include "translation.h"
 
+#include <QTime>
 #include <QWidget>
 
-WindowTitle::WindowTitle(QWidget &window, Transformer &transformer, const Translation &translation, ErrorReport &errors)
-    : mWindow(window), mTransformer(transformer), mTranslation(translation), mErrors(errors) {}
+WindowTitle::WindowTitle(QWidget &window, FormTreeWidget &tree, Transformer &transformer,
+                         const Translation &translation, ErrorReport &errors)
+    : mWindow(window), mTree(tree), mTransformer(transformer), mTranslation(translation), mErrors(errors) {}
 
-void WindowTitle::SetUIFormTitle() try { show(mTransformer.GetFileName()); }
+void WindowTitle::SetUIFormTitle() try {
+    mTree.SetHeading(QString());
+    show(mTransformer.GetFileName());
+}
 ERROR_TAIL()
 
 void WindowTitle::NameRadio() try {
-    if (mTransformer.GetFileName().isEmpty())
-        show(RadioModels::RadioName(mTransformer));
+    const QString radio = RadioModels::RadioName(mTransformer);
+    if (radio.isEmpty() || !mTransformer.GetFileName().isEmpty())
+        return;
+    show(radio);
+    mTree.SetHeading(radio + QStringLiteral(", ") + QTime::currentTime().toString(QStringLiteral("hh:mm:ss")));
 }
 ERROR_TAIL()
 

@@ -37,7 +37,7 @@ class FakeDocumentShell final : public DocumentShell {
     [[nodiscard]] QString NodeText(qint32 index) const override { return QStringLiteral("node %1").arg(index); }
     void SelectFirstFilterTab() override { log("SelectFirstFilterTab"); }
     void SetUIFormTitle() override { log("SetUIFormTitle"); }
-    void NameRadioInTitle() override { log("NameRadioInTitle"); }
+    void NameRadio() override { log("NameRadio"); }
     qint32 GeneralDialog(const QString &Prompt, qint32 Buttons, const QString &Title,
                          const QString &strParameters) override;
     void FailedToLoadDLL(const QString &DllName) override { log("FailedToLoadDLL", {DllName}); }

@@ -154,7 +154,10 @@ void run(DocumentBench &bench, const QString &command) {
         return;
     }
     clsTalkToRadio radio(bench.services.process, bench.shell, bench.services.boxes, bench.services.errors,
-                         [&bench](InterrogationType type) { bench.log.add(QStringLiteral("window"), {qint32(type)}); });
+                         [&bench](InterrogationType type) {
+                             bench.log.add(QStringLiteral("window"), {qint32(type)});
+                             return false;
+                         });
     using RadioCommand = void (clsTalkToRadio::*)();
     const QHash<QString, RadioCommand> radioCommands{
         {QStringLiteral("interrogate"), &clsTalkToRadio::mnuInterrogateRadio_Click},

@@ -18,6 +18,7 @@ struct Case {
     const char *model = "KX4600";
     const char *refuses = "";
     bool loadFailed = false;
+    bool reads = true;
     const char *steps = "";
 };
 
@@ -29,12 +30,16 @@ const Case kCases[] = {
      .steps = "window(0)"},
     {.fault = "a read of a clean form asks nothing",
      .type = InterrogationType::kRead,
-     .steps = "shell.FocusFormTree(); shell.SaveForm(); window(1); shell.NameRadioInTitle()"},
+     .steps = "shell.FocusFormTree(); shell.SaveForm(); window(1); shell.NameRadio()"},
     {.fault = "a read without a form asks nothing",
      .type = InterrogationType::kRead,
      .formLoaded = false,
      .formDirty = true,
-     .steps = "shell.FocusFormTree(); shell.SaveForm(); window(1); shell.NameRadioInTitle()"},
+     .steps = "shell.FocusFormTree(); shell.SaveForm(); window(1); shell.NameRadio()"},
+    {.fault = "a read that failed gives the data no radio's name",
+     .type = InterrogationType::kRead,
+     .reads = false,
+     .steps = "shell.FocusFormTree(); shell.SaveForm(); window(1)"},
     {.fault = "a program run saves the form without a question",
      .type = InterrogationType::kProgram,
      .formDirty = true,
@@ -54,7 +59,7 @@ const Case kCases[] = {
      .model = "KX4700 HPM Trigger Base",
      .steps = "shell.FocusFormTree(); shell.SaveForm(); "
               "shell.OpenForm(usrctlCalSpecifications, Specifications, false); shell.SelectNode(1); "
-              "SetCurrentFormName(USRCTLCALSPECIFICATIONS); window(1); shell.NameRadioInTitle()"},
+              "SetCurrentFormName(USRCTLCALSPECIFICATIONS); window(1); shell.NameRadio()"},
     {.fault = "calibration: a form that is not available is not opened",
      .type = InterrogationType::kProgram,
      .model = "KX4700 Trigger Base",
@@ -88,10 +93,12 @@ class DocumentsRadioTest : public QObject {
 namespace {
 struct RadioBench : DocumentBench {
     std::function<void()> whileShown;
+    bool reads = true; // what a read comes to
     clsTalkToRadio radio{services.process, shell, services.boxes, services.errors, [this](InterrogationType type) {
                              log.add(QStringLiteral("window"), {qint32(type)});
                              if (whileShown)
                                  whileShown();
+                             return type == InterrogationType::kRead && reads;
                          }};
 };
 } // namespace
@@ -107,6 +114,7 @@ void DocumentsRadioTest::everyOperationInEveryState() {
     RadioBench bench;
     bench.shell.formLoaded = row->formLoaded;
     bench.shell.savesForm = row->savesForm;
+    bench.reads = row->reads;
     bench.component.when(QStringLiteral("GetFormIsDirty")).answers(row->formDirty);
     bench.component.when(QStringLiteral("GetRadioModel")).answers(QString::fromLatin1(row->model));
     bench.component.when(QStringLiteral("GetLoadFailed")).answers(row->loadFailed);

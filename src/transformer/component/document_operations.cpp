@@ -40,9 +40,14 @@ void DocumentOperations::ReadFile(const QString &fileName) {
         mState.fileHash = SealedText::statedHash(text).value_or(QByteArray());
         mState.fileComment = header.comment;
         takeOver(std::move(document), {});
+        tellFile(QStringLiteral("Opened"), path);
     } catch (const FileProblem &problem) {
         mState.events.tellError(problem.Prompt, problem.Parameters);
     }
+}
+
+void DocumentOperations::tellFile(const QString &action, const QString &path) {
+    mState.events.lastAction(action, QFileInfo(path).fileName());
 }
 
 void DocumentOperations::takeOver(DataDocument &&document, const std::set<TierIndex> &dirty) {
@@ -98,6 +103,7 @@ void DocumentOperations::SaveFile(const QString &fileName, const QString &commen
             mState.journal.allIsStored();
         }
         result = true;
+        tellFile(QStringLiteral("Saved"), path);
     } catch (const FileProblem &problem) {
         mState.events.tellError(problem.Prompt, problem.Parameters);
     }
@@ -135,6 +141,7 @@ void DocumentOperations::ReloadDefaults(const QString &tierKey) {
     mState.fileHash.clear();
     mState.fileComment.clear();
     mState.journal.recordReplacement({tier}, false);
+    mState.events.lastAction(QStringLiteral("New data"), mState.dictionary.tier(tier).caption);
 }
 
 void DocumentOperations::ResetDatabase() {

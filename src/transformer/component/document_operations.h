@@ -23,6 +23,7 @@ class DocumentOperations {
     void takeOver(DataDocument &&document, const std::set<TierIndex> &dirty);
 
   private:
+    void tellFile(const QString &action, const QString &path);
     [[nodiscard]] bool mayReplace(const QString &fileName);
     [[nodiscard]] bool mayOverwrite(const QString &path);
     [[nodiscard]] QString versionEntry(qint32 index) const;

@@ -24,7 +24,7 @@ void JsonReader::refuse(QLatin1StringView key, const QString &what) const {
 }
 
 QJsonValue JsonReader::required(QLatin1StringView key) const {
-    const QJsonValue found = mObject.value(key);
+    QJsonValue found = mObject.value(key);
     if (found.isUndefined())
         refuse(key, QStringLiteral("is missing"));
     return found;
@@ -55,7 +55,7 @@ qint32 JsonReader::integerOr(QLatin1StringView key, qint32 fallback) const {
 }
 
 bool JsonReader::flag(QLatin1StringView key) const {
-    const QJsonValue found = mObject.value(key);
+    QJsonValue found = mObject.value(key);
     if (found.isUndefined())
         return false;
     if (!found.isBool())
@@ -71,7 +71,7 @@ QStringList JsonReader::texts(QLatin1StringView key) const {
         return result;
     if (value(key).isString())
         return {text(key)};
-    for (const QJsonValue &entry : array(key)) {
+    for (const auto &entry : array(key)) {
         if (!entry.isString())
             refuse(key, QStringLiteral("must hold texts"));
         result.append(entry.toString());

@@ -54,7 +54,7 @@ void Comparison::addItem(Rule &rule, QLatin1StringView key, const QString &text)
 
 void Comparison::readOperands(Rule &rule, QLatin1StringView key) const {
     const QJsonArray operands = reader.array(key);
-    for (const QJsonValue &operand : operands) {
+    for (const auto &operand : operands) {
         if (operand.isString())
             addItem(rule, key, operand.toString());
         else
@@ -119,7 +119,7 @@ Rule readCompare(const LoaderNames &names, const JsonReader &reader, StructureIn
 Rule readInner(const LoaderNames &names, const JsonReader &reader, StructureIndex structure, Rule::Kind kind,
                QLatin1StringView key) {
     Rule rule = ruleOf(kind);
-    for (const QJsonValue &entry : reader.array(key))
+    for (const auto &entry : reader.array(key))
         rule.inner.push_back(RuleParser::read(names, reader.nested(key, entry), structure));
     return rule;
 }

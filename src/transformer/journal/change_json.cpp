@@ -85,7 +85,7 @@ RecordImage imageOf(const Dictionary &dictionary, const RecordStructure &structu
     for (const StructureIndex index : structure.children) {
         const RecordStructure &child = dictionary.structure(index);
         std::vector<RecordRow> &rows = image.children.emplace_back();
-        for (const QJsonValue &row : step[5].toObject().value(child.name).toArray())
+        for (const auto &row : step[5].toObject().value(child.name).toArray())
             rows.push_back(rowOf(dictionary, child, row.toObject()));
     }
     return image;
@@ -122,7 +122,7 @@ QJsonArray toJson(const Dictionary &dictionary, const Changes &changes) {
 
 Changes fromJson(const Dictionary &dictionary, const QJsonArray &json) {
     Changes changes;
-    for (const QJsonValue &step : json)
+    for (const auto &step : json)
         changes.push_back(changeOf(dictionary, step.toArray()));
     return changes;
 }

@@ -37,7 +37,7 @@ bool readBase(const QJsonObject &line, RecoveredWork &work) {
         return false;
     const Dictionary &dictionary = work.document.data.dictionary();
     work.fileName = line.value(JournalKeys::kFileName).toString();
-    for (const QJsonValue &key : line.value(JournalKeys::kDirty).toArray()) {
+    for (const auto &key : line.value(JournalKeys::kDirty).toArray()) {
         if (const std::optional<TierIndex> tier = dictionary.tierByKey(key.toString()))
             work.dirty.insert(*tier);
     }

@@ -149,7 +149,7 @@ std::optional<RecordRow> ImageDecoder::decodeRow(const TierData &data, Table tab
 std::optional<StoredValue> ImageDecoder::decodeField(const TierData &data, const FieldDefinition &field,
                                                      RecordAddress record) {
     const qint32 recordAt = mDictionary.layout().recordOffset(data.tier(), field.structure, record);
-    const std::optional<StoredValue> value = FieldCell::get(mImage, recordAt, field);
+    std::optional<StoredValue> value = FieldCell::get(mImage, recordAt, field);
     const bool valid =
         value && std::holds_alternative<StoredValue>(ValueCodec::checkStored(field, *value, limitsOf(data, field)));
     if (valid)

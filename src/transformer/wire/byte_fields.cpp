@@ -50,7 +50,7 @@ QByteArray ByteReader::text(int width) {
 }
 
 QByteArray ByteReader::rest() {
-    const QByteArray tail = mData.mid(mPosition);
+    QByteArray tail = mData.mid(mPosition);
     mPosition = mData.size();
     return tail;
 }
