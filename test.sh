@@ -66,12 +66,11 @@ run_tests() { # preset's build folder
 if [ "$failed" = 0 ]; then
   tools/check_package.sh build
   count "package" $?
-  [ -n "$full" ] && export KX_FULL=1
-  run_tests build
+  KX_FULL=$full run_tests build
   if [ -n "$full" ]; then
     cmake --preset asan >/dev/null && cmake --build --preset asan
     count "sanitizer build" $?
-    KX_FULL= run_tests build-asan
+    KX_FULL_SANITIZED=1 run_tests build-asan
   fi
 fi
 

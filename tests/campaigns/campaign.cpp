@@ -8,6 +8,7 @@
 
 namespace Campaign {
 int count(int small, int full) { return qEnvironmentVariableIsEmpty("KX_FULL") ? small : full; }
+int countSanitized(int small, int full) { return qEnvironmentVariableIsEmpty("KX_FULL_SANITIZED") ? small : full; }
 
 QByteArray Tally::text() const {
     QStringList parts;

@@ -11,6 +11,8 @@
 namespace Campaign {
 // The full count under KX_FULL.
 [[nodiscard]] int count(int small, int full);
+// Of a campaign that looks for crashes: the full count under KX_FULL_SANITIZED, meant for the sanitizer build.
+[[nodiscard]] int countSanitized(int small, int full);
 
 // How often each kind of event took effect.
 class Tally {

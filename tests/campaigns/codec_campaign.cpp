@@ -109,7 +109,7 @@ class CodecCampaign : public QObject {
 
 void CodecCampaign::randomBytesHarmNeitherEnd() {
     constexpr qsizetype kPiece = 5000;
-    const qsizetype wanted = Campaign::count(500'000, 10'000'000);
+    const qsizetype wanted = Campaign::countSanitized(500'000, 10'000'000);
     Campaign::Random random(1);
     Radio radio;
     FrameDecoder programmer;
@@ -140,7 +140,7 @@ void CodecCampaign::changedRequestsHarmNoRadio() {
     Campaign::Random random(2);
     Campaign::Tally changes;
     Campaign::Tally answers;
-    const int runs = Campaign::count(300, 20'000);
+    const int runs = Campaign::countSanitized(300, 20'000);
     for (int run = 0; run < runs; ++run) {
         Radio radio;
         for (const QByteArray &request : std::as_const(line.requests)) {
@@ -172,7 +172,7 @@ void CodecCampaign::changedAnswersHarmNoProgrammer() {
     Campaign::Random random(3);
     Campaign::Tally changes;
     Campaign::Tally outcomes;
-    const int runs = Campaign::count(300, 20'000);
+    const int runs = Campaign::countSanitized(300, 20'000);
     for (int run = 0; run < runs; ++run) {
         Radio radio;
         LoopLine line(radio);
