@@ -27,9 +27,14 @@ ROOT = Path(__file__).resolve().parent.parent
 MEMORY = Path(os.environ.get("XDG_CACHE_HOME") or Path.home() / ".cache") / "kx4600-lint"
 LONGEST_BATCH = 12
 OUTPUT = re.compile(r" -o (\S+)")
+PRECOMPILED = re.compile(r" -fpch-preprocess| -Winvalid-pch -include \S+")
 LOCATION = re.compile(r"^(/[^:]+):(\d+):\d+: error: ", re.MULTILINE)
 FORWARD = re.compile(r"^(?:class|struct) (\w+);", re.MULTILINE)
 DEFINED = re.compile(r"^#define (\w+)", re.MULTILINE)
+
+
+def is_own(path: str) -> bool:
+    return path.startswith(f"{ROOT}/") and "/cmake_pch." not in path
 
 
 def headers_read(build: str) -> dict[str, list[Path]]:
@@ -40,7 +45,7 @@ def headers_read(build: str) -> dict[str, list[Path]]:
         lines = block.splitlines()
         if lines:
             paths = (os.path.normpath(os.path.join(ROOT, build, line.strip())) for line in lines[1:])
-            read[lines[0].split(":")[0]] = sorted(Path(path) for path in paths if path.startswith(f"{ROOT}/"))
+            read[lines[0].split(":")[0]] = sorted(Path(path) for path in paths if is_own(path))
     return read
 
 
@@ -90,7 +95,8 @@ class Lint:
         self.build = os.path.abspath(build)
         self.commands = {}
         for one in json.loads(Path(build, "compile_commands.json").read_text(encoding="utf-8")):
-            self.commands[os.path.abspath(os.path.join(one["directory"], one["file"]))] = one["command"]
+            name = os.path.abspath(os.path.join(one["directory"], one["file"]))
+            self.commands[name] = PRECOMPILED.sub("", one["command"])
         self.read = headers_read(build)
         version = subprocess.run(["clang-tidy", "--version"], capture_output=True, check=False).stdout
         installed = subprocess.run(["dpkg-query", "-W", "qt6-base-dev", "libstdc++-12-dev"], capture_output=True,
