@@ -35,7 +35,7 @@ if(KX_SANITIZE)
 endif()
 
 # Reading the headers of QtCore and of the standard library is half of a compile, so those that most sources name are
-# compiled once. A source names what it uses all the same: the other builds and lint go without.
+# compiled once. A source names what it uses all the same: the debug build and lint go without.
 option(KX_PRECOMPILE "Compile the most used system headers once" OFF)
 if(KX_PRECOMPILE)
   add_library(kx_precompiled OBJECT ${CMAKE_CURRENT_LIST_DIR}/precompiled.cpp)
