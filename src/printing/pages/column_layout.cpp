@@ -59,6 +59,7 @@ std::vector<double> widthsByNeed(const std::vector<ColumnNeed> &needs, double li
     const double total = lineWidth + gap;
     const bool wordsFit = sumOf(needs, &ColumnNeed::word, gap) <= total;
     std::vector<Bounds> bounds;
+    bounds.reserve(needs.size());
     for (const ColumnNeed &need : needs)
         bounds.push_back(wordsFit ? Bounds{need.word + gap, need.text + gap} : Bounds{0, need.word + gap});
     return sharesOf(total, bounds, gap);
@@ -71,6 +72,7 @@ std::vector<Column> layOutColumns(const std::vector<ColumnNeed> &needs, double l
     const std::vector<double> widths =
         wordsFit ? std::vector<double>(needs.size(), equal) : widthsByNeed(needs, lineWidth, gap);
     std::vector<Column> columns;
+    columns.reserve(widths.size());
     for (const double width : widths) {
         columns.push_back({left, width});
         left += width;
