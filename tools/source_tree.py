@@ -34,7 +34,7 @@ LAYERS = {
     "src/mapping/script": ["src/binding/contract"],
     "src/mapping": ["src/mapping/script", "src/common", "src/binding"],
     "src/shell": ["src/forms", "src/printing", "src/mapping", "src/common/ports"],
-    "src/app": ["src/shell"],
+    "src/app": ["src/shell", "src/forms/unseen"],
     "src/ctl": ["src/transformer/component", "src/forms/unseen", "src/printing/pages", "src/mapping/script"],
     "src/sim": ["src/transformer/wire", "src/transformer/dictionary"],
 }

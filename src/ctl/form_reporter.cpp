@@ -1,54 +1,16 @@
 #include "form_reporter.h"
 
-#include "ienabler.h"
-#include "stored_positions.h"
+#include "printed_form.h"
+#include "report_form_shell.h"
 #include "unseen_form.h"
 
 namespace {
-const QString kPrint = QStringLiteral("Print");
-
 // A tool has no clipboard.
 class NoClipboard final : public ClipboardText {
   public:
     [[nodiscard]] bool HasText() const override { return false; }
     [[nodiscard]] QString Text() const override { return {}; }
     void SetText(const QString & /*text*/) override {}
-};
-
-// The main window that is not there, as the form sees it that is printed.
-class NoWindow final : public FormShell {
-  public:
-    explicit NoWindow(const PrintableForm &form) : mForm(form) {}
-
-    [[nodiscard]] qint32 TextAlignment() const override { return 0; }
-    [[nodiscard]] bool ChangingForms() const override { return false; }
-    [[nodiscard]] QString LoadedFormTypeName() const override { return mForm.key; }
-    [[nodiscard]] QString LoadedFormTitle() const override { return mForm.title; }
-    [[nodiscard]] QWidget *MainWindow() const override { return nullptr; }
-    void ShowWhatsThisHelp(qint32 /*HelpContextID*/) override {}
-    void StartDrag(const QString & /*id*/, const QString & /*typeName*/) override {}
-    void FinishedDrag() override {}
-    void SilentMode(bool /*silent*/) override {}
-
-  private:
-    const PrintableForm &mForm;
-};
-
-// The enabler stands where the component's events find it.
-class EnteredEnabler {
-  public:
-    EnteredEnabler(ProcessValues &process, const std::shared_ptr<Ienabler> &enabler) : mProcess(process) {
-        mProcess.colEnablers.Add(enabler, kPrint);
-        mProcess.CurrentEnablerKey = kPrint;
-    }
-    ~EnteredEnabler() {
-        mProcess.CurrentEnablerKey.clear();
-        mProcess.colEnablers.Remove(kPrint);
-    }
-    Q_DISABLE_COPY_MOVE(EnteredEnabler)
-
-  private:
-    ProcessValues &mProcess;
 };
 } // namespace
 
@@ -78,14 +40,10 @@ std::vector<PrintableForm> FormReporter::Forms() {
 
 bool FormReporter::Print(const PrintableForm &form, ReportLines &lines, bool printAll) {
     NoClipboard clipboard;
-    NoWindow window(form);
-    UnseenForm unseen(mCatalogue.form(form.key), {mProcess, mTranslation, mErrors, mBoxes, clipboard, window});
-    const auto enabler = unseen.Iusrfrm_Enabler();
-    const EnteredEnabler entered(mProcess, enabler);
-    const StoredPositions positions(mSession.transformer(), unseen.Iusrfrm_Controls());
-    enabler->Ienabler_InitialiseFields(-1);
-    const bool printed = enabler->Ienabler_PrintForm(unseen, form.title, lines, printAll);
-    positions.Restore();
+    ReportFormShell shell(form.key, form.title);
+    const FieldServices services{mProcess, mTranslation, mErrors, mBoxes, clipboard, shell};
+    UnseenForm unseen(mCatalogue.form(form.key), services);
+    const bool printed = PrintedForm(services, unseen).PrintTo(lines, form.title, printAll);
     return printed && !mErrors.HasReported();
 }
 

@@ -1,14 +1,13 @@
 #include "command_handlers.h"
 
 #include "form_reporter.h"
+#include "page_sink.h"
 #include "page_writer.h"
-#include "pdf_page_sink.h"
 #include "print_messages.h"
 #include "report_banner.h"
+#include "report_file.h"
 #include "report_font.h"
 #include "report_lines.h"
-#include "text_page_sink.h"
-#include "whole_file.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -21,55 +20,12 @@
 #include <memory>
 
 namespace {
-// The file that a report goes into; it appears whole or not at all.
-class ReportFile {
-  public:
-    virtual ~ReportFile() = default;
-    [[nodiscard]] virtual PageSink &sink() = 0;
-    // Both raise RunTimeError.
-    virtual void begin() { sink().BeginDocument(); }
-    virtual void end() { sink().EndDocument(); }
-};
-
-class PdfReport final : public ReportFile {
-  public:
-    explicit PdfReport(const QString &path) : mSink(path) {}
-    [[nodiscard]] PageSink &sink() override { return mSink; }
-
-  private:
-    PdfPageSink mSink;
-};
-
-class TextReport final : public ReportFile {
-  public:
-    explicit TextReport(QString path) : mPath(std::move(path)) {}
-    [[nodiscard]] PageSink &sink() override { return mSink; }
-    void end() override { WholeFile::replace(mPath, TextPageSink::textOf(mPages).toUtf8()); }
-
-  private:
-    QString mPath;
-    std::vector<QStringList> mPages;
-    TextPageSink mSink{{}, mPages};
-};
-
-struct FileKind {
-    const char *suffix;
-    std::unique_ptr<ReportFile> (*make)(const QString &path);
-};
-constexpr std::array kFileKinds = {
-    FileKind{"pdf",
-             [](const QString &path) -> std::unique_ptr<ReportFile> { return std::make_unique<PdfReport>(path); }},
-    FileKind{"txt",
-             [](const QString &path) -> std::unique_ptr<ReportFile> { return std::make_unique<TextReport>(path); }},
-};
-
-std::unique_ptr<ReportFile> makeFile(const QString &path) {
-    const QString suffix = QFileInfo(path).suffix();
-    for (const FileKind &kind : kFileKinds) {
-        if (suffix.compare(QLatin1StringView(kind.suffix), Qt::CaseInsensitive) == 0)
-            return kind.make(path);
-    }
-    throw UsageError(QStringLiteral("the name of a report ends in .pdf or .txt"));
+// A name of neither kind is a slip of the user's.
+std::unique_ptr<PageSink> openFile(const QString &path) {
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix != u"pdf" && suffix != u"txt")
+        throw UsageError(QStringLiteral("the name of a report ends in .pdf or .txt"));
+    return reportFile(path);
 }
 
 // Lines on the pages of a sink.
@@ -82,6 +38,8 @@ class PagedLines final : public ReportLines {
     } catch (const RunTimeError &) {
         return false;
     }
+    // Raises RunTimeError.
+    void finish() { mWriter.Finish(); }
 
   private:
     [[nodiscard]] static QString fontOf(const PageSink &sink) {
@@ -127,23 +85,24 @@ bool printAll(FormReporter &reporter, const std::vector<PrintableForm> &forms, R
 } // namespace
 
 int Commands::report(ToolSession &session) {
-    const std::unique_ptr<ReportFile> file = makeFile(session.requiredOutput());
+    const std::unique_ptr<PageSink> file = openFile(session.requiredOutput());
     session.open(session.arguments().rest().first());
     FormReporter reporter(session);
     const std::vector<PrintableForm> forms = chosenForms(session, reporter.Forms());
     Transformer &component = session.transformer();
     try {
-        PagedLines lines(file->sink());
-        file->begin();
+        PagedLines lines(*file);
+        file->BeginDocument();
         if (!lines.PrintLine(
                 reportBanner(component.GetRadioModel(), QDateTime::currentDateTime(), component.GetFileName()), true,
                 false, true))
             throw RunTimeError(ErrorNumber::kPrinter, QStringLiteral("report"), QString());
         if (!printAll(reporter, forms, lines, session.arguments().has(QStringLiteral("--all")))) {
-            file->sink().CancelDocument();
+            file->CancelDocument();
             return ExitCode::kFile;
         }
-        file->end();
+        lines.finish();
+        file->EndDocument();
         return ExitCode::kDone;
     } catch (const RunTimeError &) {
         PrintMessages::tell(reporter.Boxes(), PrintMessages::kCancelled);

@@ -39,7 +39,7 @@ bool fldComboField::Ifield_SetValue(const QVariant &Value, bool blnValidate) try
         return false;
     const QString target = targetFor(Value);
     if (!ValueText::isNumeric(target)) {
-        if (!target.isEmpty() && !ValueText::isUndefined(target))
+        if (!target.isEmpty() && !ValueText::isUndefined(Value))
             complain(QStringLiteral("Combo field '%0:S' is being set to item '%1:S' which is not numeric"), target);
         return false;
     }

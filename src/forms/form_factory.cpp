@@ -24,20 +24,20 @@ bool FormFactory::isKnown(const QString &name) const {
     return mCatalogue.contains(name) || name.compare(kCalibration, Qt::CaseInsensitive) == 0;
 }
 
-const FormDefinition &FormFactory::definitionOf(const QString &name) {
+const FormDefinition &FormFactory::DefinitionOf(const QString &name) {
     return name.compare(kCalibration, Qt::CaseInsensitive) == 0 ? mCalibration : mCatalogue.form(name);
 }
 
 bool FormFactory::CanCreate(const QString &name) {
     if (!isKnown(name))
         return false;
-    return std::ranges::all_of(definitionOf(name).placedControls(), [&](const PlacedControl &placed) {
+    return std::ranges::all_of(DefinitionOf(name).placedControls(), [&](const PlacedControl &placed) {
         return placed.control->typeName == u"SSTab" || mRegistry.Knows(placed.control->typeName);
     });
 }
 
 DataForm *FormFactory::CreateForm(const QString &name, const FieldServices &services, QWidget *parent) {
-    auto form = std::make_unique<DataForm>(definitionOf(name), services, parent);
+    auto form = std::make_unique<DataForm>(DefinitionOf(name), services, parent);
     form->hide();
     form->Build(mRegistry);
     return form.release();

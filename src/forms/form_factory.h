@@ -22,11 +22,11 @@ class FormFactory {
     // The form, hidden, as a child of parent. Raises error 35601 for an unknown name or a control that cannot be made;
     // then nothing is left behind.
     [[nodiscard]] DataForm *CreateForm(const QString &name, const FieldServices &services, QWidget *parent);
+    // The catalogue's, or the calibration form. Raises error 35601 for an unknown name.
+    [[nodiscard]] const FormDefinition &DefinitionOf(const QString &name);
 
   private:
-    // The catalogue's, or the calibration form.
     [[nodiscard]] bool isKnown(const QString &name) const;
-    [[nodiscard]] const FormDefinition &definitionOf(const QString &name);
 
     FormCatalogue mCatalogue;
     FormDefinition mCalibration;

@@ -67,8 +67,10 @@ ERROR_TAIL(false)
 
 bool clsPrint::EndDocument() try {
     const std::unique_ptr<PageSink> sink = std::exchange(mSink, nullptr);
-    if (sink != nullptr)
+    if (sink != nullptr) {
+        mWriter->Finish();
         sink->EndDocument();
+    }
     return true;
 } catch (...) {
     PrintMessages::tell(mBoxes, PrintMessages::kCancelled);

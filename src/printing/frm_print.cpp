@@ -2,7 +2,6 @@
 
 #include "cls_print.h"
 #include "common_error_handler.h"
-#include "ienabler.h"
 #include "pdf_page_sink.h"
 #include "print_messages.h"
 #include "printed_form.h"
@@ -10,6 +9,7 @@
 #include "process_values.h"
 #include "recorded_report.h"
 #include "report_banner.h"
+#include "report_form_shell.h"
 #include "report_preview.h"
 #include "string_utilities.h"
 #include "transformer.h"
@@ -32,7 +32,10 @@ namespace {
 constexpr int kNodeRole = Qt::UserRole;
 
 QString askPdfName(QWidget *window, const QString &proposal) {
-    return QFileDialog::getSaveFileName(window, window->windowTitle(), proposal, QStringLiteral("PDF (*.pdf)"));
+    QFileDialog dialog(window, window->windowTitle(), proposal, QStringLiteral("PDF (*.pdf)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 } // namespace
 
@@ -253,8 +256,11 @@ bool frmPrint::PrintLine(const QString &Text, bool Bold, bool Columns, bool Rule
 bool frmPrint::OpenForm(int index, bool printAll) try {
     const QListWidgetItem *const item = lstForms->item(index);
     const QString key = mShell.FormKey(item->data(kNodeRole).toInt());
-    const PrintedForm printed(mServices, mShell, key, item->text(), *this);
-    return printed.enabler().Ienabler_PrintForm(printed.form(), item->text(), *this, printAll);
+    ReportFormShell shell(key, item->text());
+    const FieldServices services{mServices.process, mServices.translation, mServices.errors,
+                                 mServices.boxes,   mServices.clipboard,   shell};
+    const std::unique_ptr<Iusrfrm> form = mShell.CreateForm(key, services);
+    return PrintedForm(services, *form).PrintTo(*this, item->text(), printAll);
 }
 ERROR_TAIL(false)
 

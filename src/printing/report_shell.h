@@ -1,11 +1,12 @@
 #pragma once
 
+#include "iusrfrm.h"
+
 #include <QString>
 
+#include <memory>
 #include <vector>
 
-class Iusrfrm;
-class QWidget;
 struct FieldServices;
 
 // A form of the main window's tree that can be printed.
@@ -13,12 +14,6 @@ struct ReportableForm {
     qint32 node = 0; // in the tree, from 1
     QString text;    // its parent's text, " - " and its own; its own alone at top level
     bool open = false;
-};
-
-// A form that was made for a report. Both pointers name the same object; the parent widget owns it.
-struct InvisibleForm {
-    QWidget *widget = nullptr;
-    Iusrfrm *form = nullptr;
 };
 
 // What the report dialog needs of the main window.
@@ -29,8 +24,8 @@ class ReportShell {
     [[nodiscard]] virtual std::vector<ReportableForm> Forms() const = 0;
     // Type name of a node's form.
     [[nodiscard]] virtual QString FormKey(qint32 node) const = 0;
-    // Makes the form, hidden. Raises what making it raises.
-    virtual InvisibleForm CreateForm(const QString &key, const FieldServices &services, QWidget *parent) = 0;
+    // Makes the form, without a window. Raises what making it raises; the services outlive the form.
+    [[nodiscard]] virtual std::unique_ptr<Iusrfrm> CreateForm(const QString &key, const FieldServices &services) = 0;
     // Nest.
     virtual void MouseHourglass() = 0;
     virtual void MouseDefault() = 0;

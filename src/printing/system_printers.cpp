@@ -1,8 +1,8 @@
 #include "system_printers.h"
 
 #include "device_mode.h"
-#include "pdf_page_sink.h"
 #include "printer_page_sink.h"
+#include "report_file.h"
 #include "run_time_error.h"
 
 #include <QApplication>
@@ -19,7 +19,7 @@ QString SystemPrinters::CurrentPrinter() const { return mCurrent.isEmpty() ? Def
 std::unique_ptr<PageSink> SystemPrinters::OpenSink() {
     const QString file = qEnvironmentVariable("KX4600_PRINT_FILE");
     if (!file.isEmpty())
-        return std::make_unique<PdfPageSink>(file);
+        return reportFile(file);
     if (Printers().isEmpty())
         return nullptr;
     std::unique_ptr<QPrinter> printer = makePrinter(CurrentPrinter());

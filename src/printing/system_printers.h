@@ -7,7 +7,7 @@
 class QPrinter;
 
 // The system's printers. Where the environment variable KX4600_PRINT_FILE names a file, every document goes into that
-// file as PDF and no printer is needed.
+// file, as PDF or text by its name, and no printer is needed.
 class SystemPrinters final : public PrinterPlatform {
   public:
     [[nodiscard]] QStringList Printers() const override;

@@ -28,9 +28,8 @@ bool ReportForms::isReportable(qint32 node) const {
 
 QString ReportForms::FormKey(qint32 node) const { return mParts.nodes.Key(node); }
 
-InvisibleForm ReportForms::CreateForm(const QString &key, const FieldServices &services, QWidget *parent) {
-    const HostedForm form = mParts.factory.CreateForm(key, services, parent);
-    return {form.widget, form.form};
+std::unique_ptr<Iusrfrm> ReportForms::CreateForm(const QString &key, const FieldServices &services) {
+    return mParts.factory.CreateUnseenForm(key, services);
 }
 
 void ReportForms::MouseHourglass() { mParts.pointer.MouseHourglass(); }

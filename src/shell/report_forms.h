@@ -20,7 +20,7 @@ class ReportForms final : public ReportShell {
 
     [[nodiscard]] std::vector<ReportableForm> Forms() const override;
     [[nodiscard]] QString FormKey(qint32 node) const override;
-    InvisibleForm CreateForm(const QString &key, const FieldServices &services, QWidget *parent) override;
+    [[nodiscard]] std::unique_ptr<Iusrfrm> CreateForm(const QString &key, const FieldServices &services) override;
     void MouseHourglass() override;
     void MouseDefault() override;
 

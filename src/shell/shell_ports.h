@@ -1,8 +1,11 @@
 #pragma once
 
+#include "iusrfrm.h"
+
 #include <QString>
 
-class Iusrfrm;
+#include <memory>
+
 class QWidget;
 struct FieldServices;
 
@@ -23,6 +26,9 @@ class FormFactoryInterface {
     // Makes the form of that control name (case ignored), hidden, as a child of parent. An unknown name raises error
     // 35601.
     virtual HostedForm CreateForm(const QString &name, const FieldServices &services, QWidget *parent) = 0;
+    // The same form without a window, for a report.
+    [[nodiscard]] virtual std::unique_ptr<Iusrfrm> CreateUnseenForm(const QString &name,
+                                                                    const FieldServices &services) = 0;
     // Gives the first field the focus; called once, when the form has been made visible.
     virtual void UserControl_Show(const HostedForm &form) = 0;
 };

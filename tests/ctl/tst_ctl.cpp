@@ -69,6 +69,11 @@ void tst_ctl::exitCode_data() {
     QTest::newRow("table without its guide") << "export a.k4p" << 2;
     QTest::newRow("table of an unknown guide") << "export a.k4p --record Channels" << 2;
     QTest::newRow("table that is not there") << "import a.k4p --record ChannelID_q7r missing.csv" << 3;
+    QTest::newRow("report") << "report a.k4p -o a.txt" << 0;
+    QTest::newRow("report of an unknown kind") << "report a.k4p -o a.doc" << 2;
+    QTest::newRow("report of an unknown form") << "report a.k4p --form Nowhere -o a.txt" << 2;
+    QTest::newRow("report as PDF to an unwritable place") << "report a.k4p -o missing/a.pdf" << 3;
+    QTest::newRow("report as text to an unwritable place") << "report a.k4p -o missing/a.txt" << 3;
     QTest::newRow("no difference") << "diff a.k4p a.k4p" << 0;
     QTest::newRow("port missing") << "interrogate" << 2;
     QTest::newRow("port that does not exist") << "interrogate --port /dev/no-such-port" << 3;

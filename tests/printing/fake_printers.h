@@ -12,9 +12,8 @@ class FakePrinters final : public PrinterPlatform {
   public:
     QStringList printers{QStringLiteral("Office"), QStringLiteral("Depot 2")};
     QString defaultPrinter = QStringLiteral("Office");
-    QStringList calls; // MakeCurrent, Apply, PrintDlg, a line a call
-    TextPageSink::Size size;
-    std::vector<QStringList> pages; // of the last document
+    QStringList calls;         // MakeCurrent, Apply, PrintDlg, a line a call
+    TextPageSink::Pages pages; // of the last document that was finished
     std::function<std::unique_ptr<PageSink>()> makeSink;
     std::function<bool(PrinterChoice &)> answerDialog = [](PrinterChoice &) { return false; };
     bool chinese = false;
@@ -32,7 +31,8 @@ class FakePrinters final : public PrinterPlatform {
     [[nodiscard]] std::unique_ptr<PageSink> OpenSink() override {
         if (makeSink)
             return makeSink();
-        return std::make_unique<TextPageSink>(size, pages);
+        return std::make_unique<TextPageSink>(TextPageSink::Size(),
+                                              [this](const TextPageSink::Pages &finished) { pages = finished; });
     }
     bool PrintDlg(QWidget * /*window*/, qint32 flags, PrinterChoice &choice) override {
         calls << QStringLiteral("PrintDlg %1 %2").arg(flags).arg(choice.DeviceName);

@@ -1,6 +1,6 @@
 #include "cls_print.h"
 #include "fake_printers.h"
-#include "pdf_page_sink.h"
+#include "report_file.h"
 #include "scripted_sink.h"
 #include "test_services.h"
 
@@ -37,35 +37,36 @@ class tst_ClsPrint : public QObject {
     void fontIsChosenByExactName_data();
     void fontIsChosenByExactName();
     void printerThatFailsInTheMiddleEndsTheReport();
-    void otherErrorsAreReported();
+    void faultOfTheProgramIsReported();
     void choiceSurvivesFromOneReportToTheNext();
-    void cancelledDialogChangesNothing();
-    void dialogFailureIsTold();
-    void pdfAppearsWholeOrNotAtAll();
+    void dialogWithoutAChoiceChangesNothing();
+    void fileAppearsWholeOrNotAtAll_data();
+    void fileAppearsWholeOrNotAtAll();
 };
 
 void tst_ClsPrint::documentThatCannotStartIsTold_data() {
-    QTest::addColumn<qint32>("measureError");
-    QTest::addColumn<bool>("failsToBegin");
-    QTest::addColumn<bool>("noPrinter");
+    QTest::addColumn<ScriptedSink::Faults>("faults");
+    QTest::addColumn<bool>("isThere");
     QTest::addColumn<QString>("message");
-    QTest::newRow("no printer") << 0 << false << true << u"There are no printers installed."_s;
-    QTest::newRow("printer is gone") << 482 << false << false << u"There are no printers installed."_s;
-    QTest::newRow("not set up") << 484 << false << false << u"The printer is set up incorrectly."_s;
-    QTest::newRow("any other error of the printer") << 5 << false << false << kCancelled;
-    QTest::newRow("file or queue cannot be opened") << 0 << true << false << kCancelled;
+    const QString noPrinters = u"There are no printers installed."_s;
+    const auto row = [](const char *name, const ScriptedSink::Faults &faults, bool isThere, const QString &message) {
+        QTest::newRow(name) << faults << isThere << message;
+    };
+    row("no printer", {}, false, noPrinters);
+    row("printer is gone", {.measuring = 482}, true, noPrinters);
+    row("not set up", {.measuring = 484}, true, u"The printer is set up incorrectly."_s);
+    row("any other error of the printer", {.measuring = 5}, true, kCancelled);
+    row("file or queue cannot be opened", {.beginning = true}, true, kCancelled);
 }
 
 void tst_ClsPrint::documentThatCannotStartIsTold() {
-    QFETCH(bool, noPrinter);
+    QFETCH(bool, isThere);
     QFETCH(QString, message);
     Printing printing;
-    QFETCH(qint32, measureError);
-    QFETCH(bool, failsToBegin);
-    printing.script.failsToMeasure = measureError;
-    printing.script.failsToBegin = failsToBegin;
+    QFETCH(ScriptedSink::Faults, faults);
+    printing.script.faults = faults;
     printing.useScript();
-    if (noPrinter)
+    if (!isThere)
         printing.printers.makeSink = [] { return nullptr; };
     printing.services.boxes.expect(message, 1);
     QVERIFY(!printing.print.NewDocument());
@@ -104,7 +105,7 @@ void tst_ClsPrint::fontIsChosenByExactName() {
 void tst_ClsPrint::printerThatFailsInTheMiddleEndsTheReport() {
     Printing printing;
     printing.useScript();
-    printing.script.failsAtNewPage = true;
+    printing.script.faults.newPage = true;
     QVERIFY(printing.print.NewDocument());
     int printed = 0;
     while (printed < 1000 && printing.line(u"line"_s))
@@ -113,29 +114,15 @@ void tst_ClsPrint::printerThatFailsInTheMiddleEndsTheReport() {
     QVERIFY(!printing.services.errors.HasReported()); // who prints tells it, and the program goes on
     printing.print.CancelDocument();
     QCOMPARE(printing.script.calls.last(), u"cancel"_s);
-    printing.script.failsAtNewPage = false;
+    printing.script.faults.newPage = false;
     QVERIFY(printing.print.NewDocument());
     QVERIFY(printing.line(u"again"_s));
 }
 
-void tst_ClsPrint::otherErrorsAreReported() {
-    // A page sink that is no printer's failure, but a fault of the program.
-    class FaultySink final : public PageSink {
-      public:
-        QStringList Fonts() const override { return {}; }
-        PageFrame Frame() const override { return {0, 0, 20, 20}; }
-        void SetFont(const QString &, bool) override {}
-        double TextWidth(const QString &) const override { return 0.2; }
-        double TextHeight() const override { return 0.4; }
-        void BeginDocument() override {}
-        void PrintText(double, double, const QString &) override { throw std::runtime_error("fault"); }
-        void PrintRule(double, double, double) override {}
-        void NewPage() override {}
-        void EndDocument() override {}
-        void CancelDocument() override {}
-    };
+void tst_ClsPrint::faultOfTheProgramIsReported() {
     Printing printing;
-    printing.printers.makeSink = [] { return std::make_unique<FaultySink>(); };
+    printing.useScript();
+    printing.script.faults.printing = ErrorNumber::kBadArgument;
     QVERIFY(printing.print.NewDocument());
     printing.services.errorSink.expectReport();
     QVERIFY(!printing.line(u"x"_s));
@@ -163,44 +150,49 @@ void tst_ClsPrint::choiceSurvivesFromOneReportToTheNext() {
     QCOMPARE(printing.printers.calls.last(), u"PrintDlg 1048580 DEPOT"_s);
 }
 
-void tst_ClsPrint::cancelledDialogChangesNothing() {
+void tst_ClsPrint::dialogWithoutAChoiceChangesNothing() {
     Printing printing;
     printing.printers.answerDialog = [](PrinterChoice &choice) {
         choice.DeviceName = u"Depot"_s;
         return false;
     };
     QVERIFY(!printing.print.PrintDialog(nullptr, 0));
-    QVERIFY(printing.print.NewDocument());
-    QCOMPARE(printing.printers.calls, QStringList(u"PrintDlg 12 "_s));
-}
-
-void tst_ClsPrint::dialogFailureIsTold() {
-    Printing printing;
     printing.printers.answerDialog = [](PrinterChoice &) -> bool { throw RunTimeError(482, {}, {}); };
     printing.services.boxes.expect(kNoCommunication, 1);
     QVERIFY(!printing.print.PrintDialog(nullptr, 0));
+    QVERIFY(printing.print.NewDocument());
+    QCOMPARE(printing.printers.calls, QStringList({u"PrintDlg 12 "_s, u"PrintDlg 12 "_s}));
 }
 
-void tst_ClsPrint::pdfAppearsWholeOrNotAtAll() {
+void tst_ClsPrint::fileAppearsWholeOrNotAtAll_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QByteArray>("start");
+    QTest::newRow("PDF") << u"report.pdf"_s << QByteArray("%PDF-");
+    QTest::newRow("text") << u"report.TXT"_s << QByteArray("second\n");
+}
+
+void tst_ClsPrint::fileAppearsWholeOrNotAtAll() {
+    QFETCH(QString, name);
+    QFETCH(QByteArray, start);
     Printing printing;
     const QTemporaryDir folder;
-    const QString file = folder.filePath(u"report.pdf"_s);
-
-    printing.services.boxes.expect(kCancelled, 1);
-    QVERIFY(!printing.print.NewDocument(std::make_unique<PdfPageSink>(folder.filePath(u"missing/report.pdf"_s))));
-
-    QVERIFY(printing.print.NewDocument(std::make_unique<PdfPageSink>(file)));
+    const QString path = folder.filePath(name);
+    QVERIFY(printing.print.NewDocument(reportFile(path)));
     QVERIFY(printing.line(u"first"_s));
     printing.print.CancelDocument();
-    QVERIFY(!QFile::exists(file));
+    QVERIFY(!QFile::exists(path));
 
-    QVERIFY(printing.print.NewDocument(std::make_unique<PdfPageSink>(file)));
+    QVERIFY(printing.print.NewDocument(reportFile(path)));
     QVERIFY(printing.line(u"second"_s));
-    QVERIFY(!QFile::exists(file));
+    QVERIFY(!QFile::exists(path));
     QVERIFY(printing.print.EndDocument());
-    QFile written(file);
+    QFile written(path);
     QVERIFY(written.open(QIODevice::ReadOnly));
-    QVERIFY(written.readAll().startsWith("%PDF-"));
+    QVERIFY(written.readAll().startsWith(start));
+
+    printing.services.boxes.expect(kCancelled, 1);
+    QVERIFY(!printing.print.NewDocument(reportFile(folder.filePath(u"missing/"_s + name))) ||
+            !printing.print.EndDocument());
 }
 
 QTEST_MAIN(tst_ClsPrint)

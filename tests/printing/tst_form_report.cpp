@@ -1,6 +1,7 @@
 #include "bound_form.h"
 #include "iusrfrm.h"
 #include "line_log.h"
+#include "test_failure.h"
 
 #include <QTest>
 
@@ -48,7 +49,10 @@ class ReportedForm final : public BoundForm, public Iusrfrm {
     }
     // The lines behind the title.
     QStringList report(bool printAll) {
-        enabler->Ienabler_PrintForm(*this, u"Form"_s, printed, printAll);
+        printed.lines.clear();
+        enabler->Ienabler_PrintForm(*this, u"My Form"_s, printed, printAll);
+        if (printed.lines.first(2) != QStringList({u"* My Form<br>"_s, u"* -------"_s}))
+            failTest(u"the title is wrong: "_s + printed.lines.join(u'|'));
         return printed.lines.mid(2);
     }
 };
@@ -58,55 +62,49 @@ class tst_FormReport : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void titleIsUnderlined();
     void fieldShowsItsValue_data();
     void fieldShowsItsValue();
     void fieldsComeInTabOrder();
     void fieldIsLeftOut_data();
     void fieldIsLeftOut();
-    void framesIndentAndPagesDoNot();
-    void emptyFrameHasNoHeading();
+    void framesIndentUnlessNothingIsInside();
     void gridIsATable_data();
     void gridIsATable();
     void everyTextIsTranslated();
-    void recordsFollowWhatStandsOutside();
-    void withoutPrintAllTheRecordAsItStands();
+    void allRecordsFollowWhatStandsOutside();
     void gridsOfTheNavigatorsRecordsAreLeftOut();
     void failureIsToldOnceAndEndsTheWalk_data();
     void failureIsToldOnceAndEndsTheWalk();
 };
 
-void tst_FormReport::titleIsUnderlined() {
-    ReportedForm form;
-    form.enabler->Ienabler_PrintForm(form, u"Networks - Alerts"_s, form.printed, false);
-    QCOMPARE(form.printed.lines, QStringList({u"* Networks - Alerts<br>"_s, u"* -----------------"_s}));
-}
-
 void tst_FormReport::fieldShowsItsValue_data() {
     QTest::addColumn<QString>("typeName");
     QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QString>("map");
     QTest::addColumn<QString>("shown");
-    QTest::newRow("text") << u"fldTextField"_s << QVariant(u"Base 1"_s) << QString() << u"Base 1"_s;
-    QTest::newRow("fraction") << u"fldTextField"_s << QVariant(12.5) << QString() << u"12.5"_s;
-    QTest::newRow("unset text") << u"fldTextField"_s << QVariant(QString()) << QString() << u"Undefined"_s;
-    QTest::newRow("text of no record") << u"fldTextField"_s << QVariant(u"Undefined"_s) << QString() << u"Undefined"_s;
-    QTest::newRow("slider") << u"fldSliderField"_s << QVariant(40) << QString() << u"40"_s;
-    QTest::newRow("reference") << u"fldIdTrackerField"_s << QVariant(u"None"_s) << QString() << u"None"_s;
-    QTest::newRow("combo by position") << u"fldComboField"_s << QVariant(1) << QString() << u"High"_s;
-    QTest::newRow("combo by position as text") << u"fldComboField"_s << QVariant(u"1"_s) << QString() << u"High"_s;
-    QTest::newRow("combo by stored value") << u"fldComboField"_s << QVariant(5) << u"5|9|12"_s << u"Low"_s;
-    QTest::newRow("combo past the end") << u"fldComboField"_s << QVariant(3) << QString() << u"Undefined"_s;
-    QTest::newRow("combo without selection") << u"fldComboField"_s << QVariant(-1) << QString() << u"Undefined"_s;
+    QTest::addColumn<QString>("map");
+    const auto row = [](const char *name, const char *type, const QVariant &value, const char *shown,
+                        const char *map = "") {
+        QTest::newRow(name) << QString::fromLatin1(type) << value << QString::fromLatin1(shown)
+                            << QString::fromLatin1(map);
+    };
+    row("text", "fldTextField", u"Base 1"_s, "Base 1");
+    row("fraction", "fldTextField", 12.5, "12.5");
+    row("unset text", "fldTextField", QString(), "Undefined");
+    row("text of no record", "fldTextField", u"Undefined"_s, "Undefined");
+    row("slider", "fldSliderField", 40, "40");
+    row("reference", "fldIdTrackerField", u"None"_s, "None");
+    row("combo by position", "fldComboField", 1, "High");
+    row("combo by position as text", "fldComboField", u"1"_s, "High");
+    row("combo by stored value", "fldComboField", 5, "Low", "5|9|12");
+    row("combo past the end", "fldComboField", 3, "Undefined");
+    row("combo without selection", "fldComboField", -1, "Undefined");
     // The map's last entry would stand for a value that it does not hold.
-    QTest::newRow("combo of no record") << u"fldComboField"_s << QVariant(u"Undefined"_s) << u"5|9|12"_s
-                                        << u"Undefined"_s;
-    QTest::newRow("checked") << u"fldCheckboxField"_s << QVariant(1) << QString() << u"Yes"_s;
-    QTest::newRow("checked as text") << u"fldCheckboxField"_s << QVariant(u"1"_s) << QString() << u"Yes"_s;
-    QTest::newRow("unchecked") << u"fldCheckboxField"_s << QVariant(0) << QString() << u"No"_s;
-    QTest::newRow("check box of no record")
-        << u"fldCheckboxField"_s << QVariant(u"Undefined"_s) << QString() << u"No"_s;
-    QTest::newRow("option") << u"fldOptionButtonField"_s << QVariant(1) << QString() << u"Yes"_s;
+    row("combo of no record", "fldComboField", u"Undefined"_s, "Undefined", "5|9|12");
+    row("checked", "fldCheckboxField", 1, "Yes");
+    row("checked as text", "fldCheckboxField", u"1"_s, "Yes");
+    row("unchecked", "fldCheckboxField", 0, "No");
+    row("check box of no record", "fldCheckboxField", u"Undefined"_s, "No");
+    row("option", "fldOptionButtonField", 1, "Yes");
 }
 
 void tst_FormReport::fieldShowsItsValue() {
@@ -156,7 +154,7 @@ void tst_FormReport::fieldIsLeftOut() {
     QCOMPARE(form.report(false), QStringList(u"  Other label: 1"_s));
 }
 
-void tst_FormReport::framesIndentAndPagesDoNot() {
+void tst_FormReport::framesIndentUnlessNothingIsInside() {
     ReportedForm form;
     auto &tab = form.add<FakeTab>(u"SSTab1"_s, QStringList(u"Page"_s));
     auto &outer = form.add<FakeField>(u"fraOuter"_s, u"fldFrame"_s);
@@ -168,22 +166,15 @@ void tst_FormReport::framesIndentAndPagesDoNot() {
     inner.container = &outer;
     form.text(u"B"_s, 2).container = &inner;
     form.text(u"C"_s, 3);
+    auto &empty = form.add<FakeField>(u"fraEmpty"_s, u"fldFrame"_s);
+    auto &emptyToo = form.add<FakeField>(u"fraEmptyToo"_s, u"fldFrame"_s);
+    emptyToo.container = &empty;
+    FakeField &hidden = form.text(u"D"_s, 4);
+    hidden.container = &emptyToo;
+    hidden.fieldVisible = false;
     // By tab index: tab, frame, inner frame, A, B, C.
     QCOMPARE(form.report(false), QStringList({u"  Outer"_s, u"  >Inner"_s, u"  >>B label: 2"_s, u"   "_s,
                                               u"  >A label: 1"_s, u"   "_s, u"  C label: 3"_s}));
-}
-
-void tst_FormReport::emptyFrameHasNoHeading() {
-    ReportedForm form;
-    auto &tab = form.add<FakeTab>(u"SSTab1"_s, QStringList(u"Page"_s));
-    auto &outer = form.add<FakeField>(u"fraOuter"_s, u"fldFrame"_s);
-    auto &inner = form.add<FakeField>(u"fraInner"_s, u"fldFrame"_s);
-    outer.container = &tab;
-    inner.container = &outer;
-    FakeField &hidden = form.text(u"A"_s, 1);
-    hidden.container = &inner;
-    hidden.fieldVisible = false;
-    QVERIFY(form.report(false).isEmpty());
 }
 
 void tst_FormReport::gridIsATable_data() {
@@ -228,9 +219,11 @@ void tst_FormReport::everyTextIsTranslated() {
                           u"  "_s, u"| No>Valeur"_s, u"  Aucun>"_s, u"   "_s}));
 }
 
-void tst_FormReport::recordsFollowWhatStandsOutside() {
+void tst_FormReport::allRecordsFollowWhatStandsOutside() {
     ReportedForm form;
-    form.text(u"Inside"_s, {}).stream = 1;
+    FakeField &inside = form.text(u"Inside"_s, {});
+    inside.stream = 1;
+    inside.recordNr = 2;
     form.text(u"Outside"_s, u"x"_s);
     form.text(u"Elsewhere"_s, u"y"_s).stream = 2;
     auto &navigator = form.add<FakeNavigator>(u"navGuide"_s);
@@ -248,22 +241,14 @@ void tst_FormReport::recordsFollowWhatStandsOutside() {
     });
     form.component.when(u"ValidateForm"_s).refuses();
     form.bind();
+    // Without print-all the record as it stands.
+    QCOMPARE(form.report(false),
+             QStringList({u"  Inside label: 22"_s, u"  Outside label: x"_s, u"  Elsewhere label: y"_s}));
     QCOMPARE(form.report(true),
-             QStringList({u"  Outside label: x"_s, u"   "_s, u"* Form North"_s, u"  Inside label: 11"_s, u"   "_s,
-                          u"* Form South"_s, u"  Inside label: 22"_s, u"   "_s}));
+             QStringList({u"  Outside label: x"_s, u"   "_s, u"* My Form North"_s, u"  Inside label: 11"_s, u"   "_s,
+                          u"* My Form South"_s, u"  Inside label: 22"_s, u"   "_s}));
     QVERIFY(form.log.linesOf(u"ValidateForm"_s).isEmpty());
     QCOMPARE(navigator.position, 2); // and there it stays
-}
-
-void tst_FormReport::withoutPrintAllTheRecordAsItStands() {
-    ReportedForm form;
-    FakeField &inside = form.text(u"Inside"_s, {});
-    inside.stream = 1;
-    inside.recordNr = 3;
-    form.component.when(u"GetValue"_s, u"Inside"_s, 3).answers(33);
-    form.add<FakeNavigator>(u"navGuide"_s).stream = 1;
-    form.component.when(u"GetNumberOfRecords"_s).answers(9);
-    QCOMPARE(form.report(false), QStringList(u"  Inside label: 33"_s));
 }
 
 void tst_FormReport::gridsOfTheNavigatorsRecordsAreLeftOut() {
@@ -274,11 +259,10 @@ void tst_FormReport::gridsOfTheNavigatorsRecordsAreLeftOut() {
     navigator.stream = 1;
     form.component.when(u"GetNumberOfRecords"_s).answers(1);
     const QStringList other{u"| Of each>record"_s, u"  No records>"_s, u"   "_s};
-    const QStringList record{u"   "_s, u"* Form "_s};
+    const QStringList record{u"   "_s, u"* My Form "_s};
     QCOMPARE(form.report(true), other + record + other + QStringList(u"   "_s));
 
     // Bound by name: left out in front of the records only.
-    form.printed.lines.clear();
     navigator.gridControl = u"grdList"_s;
     QCOMPARE(form.report(true), record + other + QStringList(u"   "_s));
 }

@@ -90,6 +90,10 @@ class FakeForms final : public FormFactoryInterface {
         form->hide();
         return {form, form, name};
     }
+    std::unique_ptr<Iusrfrm> CreateUnseenForm(const QString &name, const FieldServices & /*services*/) override {
+        mLog.add(QStringLiteral("CreateUnseenForm"), {name});
+        return std::make_unique<FakeForm>(mLog, enabler, nullptr);
+    }
     void UserControl_Show(const HostedForm & /*form*/) override { mLog.add(QStringLiteral("UserControl_Show")); }
 
   private:

@@ -1,18 +1,33 @@
 #pragma once
 
-// Where the cells of a table row stand. All lengths in centimetres.
+#include <vector>
+
+// All lengths in centimetres.
+
 enum class CellAlignment { Centred = 0, Left = 1, Right = 2 };
 
-struct ColumnLayout {
-    double leftMargin = 0;
-    double columnWidth = 0;
+// A column of a table, with the gap behind it.
+struct Column {
+    double left = 0;
+    double width = 0;
 
-    // Columns count from 1.
-    [[nodiscard]] constexpr double CellX(int column, double textWidth, CellAlignment alignment) const {
-        const double base = columnWidth * (column - 1) + leftMargin;
+    // Where a text of this width begins.
+    [[nodiscard]] constexpr double CellX(double textWidth, CellAlignment alignment) const {
         if (alignment == CellAlignment::Left)
-            return base;
-        const double room = columnWidth - textWidth;
-        return alignment == CellAlignment::Centred ? base + room / 2 : base + room;
+            return left;
+        const double room = width - textWidth;
+        return alignment == CellAlignment::Centred ? left + room / 2 : left + room;
     }
 };
+
+// What stands in a column.
+struct ColumnNeed {
+    double word = 0; // its widest word
+    double text = 0; // its widest cell
+};
+
+// The columns of a table on lines that begin at left; the gap is as wide as a character. They are equally wide as long
+// as each word fits its column. Else each is as wide as its widest word, and what is left goes to longer texts. Where
+// even the words have no room together, the columns with the widest share what the others leave.
+[[nodiscard]] std::vector<Column> layOutColumns(const std::vector<ColumnNeed> &needs, double left, double lineWidth,
+                                                double gap);

@@ -14,6 +14,7 @@ constexpr double kReferenceHeight = 0.3563059;
 constexpr double kReferenceWidth = 0.2116669;
 constexpr double kMargin = 2.0;
 constexpr double kTolerance = 0.01;
+constexpr double kRounding = 1e-6; // centimetres; a cell is not cut for less
 const QString kLineBreak = QStringLiteral("\r\n");
 const QString kIndent = QStringLiteral("    "); // what a tab takes in a plain line
 
@@ -41,6 +42,8 @@ PageWriter::PageWriter(PageSink &sink, const QString &fontName) : mSink(sink), m
 }
 
 void PageWriter::PrintLine(const QString &Text, bool Bold, bool Columns, bool Ruled) {
+    if (!Columns || Ruled)
+        Finish();
     servePageBreak();
     if (Ruled) {
         printRule();
@@ -48,12 +51,13 @@ void PageWriter::PrintLine(const QString &Text, bool Bold, bool Columns, bool Ru
     }
     for (const QString &piece : Text.split(kLineBreak)) {
         if (Columns)
-            PrintColumns(piece, Bold, CellAlignment::Left);
+            addRow({piece.split(u'\t'), Bold});
         else
             printWrapped(withoutTabs(piece), Bold);
     }
     if (!Ruled)
         return;
+    Finish();
     mCurrentY += mLineHeight / 2;
     printRule();
     mCurrentY += mLineHeight;
@@ -102,28 +106,57 @@ void PageWriter::PrintALine(const QString &text, bool bold) {
     advance(mLineHeight);
 }
 
-void PageWriter::PrintColumns(const QString &text, bool bold, CellAlignment alignment) {
+void PageWriter::addRow(const Row &row) {
+    if (!mHeldBack.empty() && mHeldBack.front().cells.size() != row.cells.size())
+        Finish();
+    mHeldBack.push_back(row);
+}
+
+void PageWriter::Finish() {
+    const std::vector<Row> rows = std::exchange(mHeldBack, {});
+    if (rows.empty())
+        return;
+    const std::vector<Column> columns = layOutColumns(needsOf(rows), mLeftMargin, mTextWidth, mCharacterWidth);
+    for (const Row &row : rows)
+        PrintColumns(row, columns, CellAlignment::Left);
+}
+
+std::vector<ColumnNeed> PageWriter::needsOf(const std::vector<Row> &rows) {
+    std::vector<ColumnNeed> needs(std::size_t(rows.front().cells.size()));
+    for (const Row &row : rows) {
+        mSink.SetFont(mFontName, row.bold);
+        for (std::size_t column = 0; column < needs.size(); ++column) {
+            ColumnNeed &need = needs[column];
+            const QString text = row.cells.at(qsizetype(column)).trimmed();
+            need.text = std::max(need.text, mSink.TextWidth(text));
+            for (const QString &word : text.split(u' '))
+                need.word = std::max(need.word, mSink.TextWidth(word));
+        }
+    }
+    return needs;
+}
+
+void PageWriter::PrintColumns(const Row &row, const std::vector<Column> &columns, CellAlignment alignment) {
     servePageBreak();
-    mSink.SetFont(mFontName, bold);
-    const QStringList cells = text.split(u'\t');
-    const ColumnLayout layout{mLeftMargin, mTextWidth / double(cells.size())};
+    mSink.SetFont(mFontName, row.bold);
     int wraps = 0;
-    for (qsizetype cell = 0; cell < cells.size(); ++cell)
-        wraps = std::max(wraps, printCell(cells.at(cell), int(cell) + 1, layout, alignment));
+    for (std::size_t cell = 0; cell < columns.size(); ++cell)
+        wraps = std::max(wraps, printCell(row.cells.at(qsizetype(cell)), columns[cell], alignment));
     advance(mLineHeight * (1 + wraps));
 }
 
-int PageWriter::printCell(QString cell, int column, const ColumnLayout &layout, CellAlignment alignment) {
-    const double usableWidth = layout.columnWidth - mCharacterWidth;
+int PageWriter::printCell(QString cell, const Column &column, CellAlignment alignment) {
+    const double usableWidth = column.width - mCharacterWidth + kRounding;
     const auto print = [&](const QString &part, int wrap) {
-        const double x = layout.CellX(column, mSink.TextWidth(part), alignment);
-        mSink.PrintText(x, mCurrentY + mLineHeight * wrap, part);
+        mSink.PrintText(column.CellX(mSink.TextWidth(part), alignment), mCurrentY + mLineHeight * wrap, part);
     };
     int wraps = 0;
     for (qsizetype fits = fitting(cell, usableWidth); cell.size() > fits && mSink.TextWidth(cell) > usableWidth;
          fits = fitting(cell, usableWidth)) {
         const qsizetype cut = WrapPosition(cell, fits);
-        print(cell.first(cut), wraps++);
+        const QString part = cell.first(cut);
+        if (!part.trimmed().isEmpty()) // the blanks in front of a head take no line
+            print(part, wraps++);
         cell.remove(0, cut);
     }
     print(cell, wraps);

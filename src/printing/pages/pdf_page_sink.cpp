@@ -7,8 +7,6 @@
 #include <QPageSize>
 
 namespace {
-constexpr double kUnprintable = 5; // millimetres at each edge, as most printers have
-
 QPageSize paperOfRegion() {
     const bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
     return QPageSize(letter ? QPageSize::Letter : QPageSize::A4);
@@ -18,7 +16,7 @@ QPageSize paperOfRegion() {
 PdfPageSink::PdfPageSink(const QString &fileName) : mFile(fileName), mWriter(&mFile) {
     mWriter.setCreator(ProductIdentity::title());
     mWriter.setPageSize(paperOfRegion());
-    mWriter.setPageMargins(QMarginsF(kUnprintable, kUnprintable, kUnprintable, kUnprintable), QPageLayout::Millimeter);
+    mWriter.setPageMargins(QMarginsF()); // a file has no edge that cannot be printed on
 }
 
 PdfPageSink::~PdfPageSink() { stopPainting(); }
@@ -31,7 +29,7 @@ void PdfPageSink::BeginDocument() {
 
 void PdfPageSink::EndDocument() {
     PaintedPageSink::EndDocument();
-    if (!mFile.commit())
+    if (!mFile.flush() || !mFile.commit()) // the flush tells that the disk is full
         raisePrinterError();
 }
 

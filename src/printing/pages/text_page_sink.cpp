@@ -12,7 +12,7 @@ constexpr double kHalf = 0.5;
 constexpr double kTolerance = 0.001;
 } // namespace
 
-QString TextPageSink::textOf(const std::vector<QStringList> &pages) {
+QString TextPageSink::textOf(const Pages &pages) {
     QStringList texts;
     for (const QStringList &page : pages)
         texts << page.join(u'\n') + u'\n';

@@ -6,21 +6,19 @@
 // no help and no drag.
 class ReportFormShell final : public FormShell {
   public:
-    ReportFormShell(const FormShell &window, QString typeName, QString title)
-        : mWindow(window), mTypeName(std::move(typeName)), mTitle(std::move(title)) {}
+    ReportFormShell(QString typeName, QString title) : mTypeName(std::move(typeName)), mTitle(std::move(title)) {}
 
-    [[nodiscard]] qint32 TextAlignment() const override { return mWindow.TextAlignment(); }
+    [[nodiscard]] qint32 TextAlignment() const override { return 0; }
     [[nodiscard]] bool ChangingForms() const override { return false; }
     [[nodiscard]] QString LoadedFormTypeName() const override { return mTypeName; }
     [[nodiscard]] QString LoadedFormTitle() const override { return mTitle; }
-    [[nodiscard]] QWidget *MainWindow() const override { return mWindow.MainWindow(); }
+    [[nodiscard]] QWidget *MainWindow() const override { return nullptr; }
     void ShowWhatsThisHelp(qint32 /*HelpContextID*/) override {}
     void StartDrag(const QString & /*id*/, const QString & /*typeName*/) override {}
     void FinishedDrag() override {}
     void SilentMode(bool /*silent*/) override {}
 
   private:
-    const FormShell &mWindow;
     QString mTypeName;
     QString mTitle;
 };
