@@ -1,5 +1,6 @@
 #include "common_error_handler.h"
 #include "failing_error_sink.h"
+#include "rows.h"
 
 #include <QTest>
 
@@ -48,89 +49,79 @@ class tst_ErrorReport : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void contextLines_data();
-    void contextLines();
-    void deliveredBuildReportsOnceAndGoesOn();
-    void developmentRunTracesTheCalls();
-    void aNameOfItsOwnIsReported();
-    void onlyTheFirstReportIsShown();
-    void foreignExceptionsGetANumber();
+    void contextLines() {
+        const QString line = u"KX4600 Programming Application: Notify_Change\r\n"_s;
+
+        for (const auto &[before, after] : Rows<QString, QString>{
+                 {"a description", u"broken"_s, line + u"broken"_s},
+                 {"exactly the name", u"Notify_Change"_s, u"Notify_Change"_s},
+                 {"the name in another case", u"notify_change"_s, line + u"notify_change"_s},
+                 {"the name and more", u"Notify_Change failed"_s, line + u"Notify_Change failed"_s},
+                 {"nothing", {}, line},
+             }) {
+            RunTimeError error(ErrorNumber::kBadArgument, QString(), before);
+            ErrorReport::AddErrorContext(error, u"Notify_Change"_s);
+            QCOMPARE(error.Description, after);
+        }
+    }
+
+    void deliveredBuildReportsOnceAndGoesOn() {
+        FailingErrorSink sink;
+        sink.expectReport();
+        ErrorReport errors(false);
+        errors.SetSink(&sink);
+        Procedures procedures(errors);
+        QCOMPARE(procedures.Outer(), 1);
+        QVERIFY(procedures.wentOn());
+        QCOMPARE(sink.reports(), QStringList(u"KX4600 Programming Application: Inner\r\nbroken"_s));
+        QVERIFY(sink.MainWindowClosed());
+        QVERIFY(errors.HasReported());
+    }
+
+    void developmentRunTracesTheCalls() {
+        FailingErrorSink sink;
+        ErrorReport errors(true);
+        errors.SetSink(&sink);
+        Procedures procedures(errors);
+        const RunTimeError error = current([&] { (void)procedures.Outer(); });
+        QCOMPARE(error.Number, ErrorNumber::kMissingObject);
+        QCOMPARE(error.Source, u"source"_s);
+        QCOMPARE(error.Description,
+                 u"KX4600 Programming Application: Outer\r\nKX4600 Programming Application: Inner\r\nbroken"_s);
+        QVERIFY(!procedures.wentOn());
+        QVERIFY(sink.reports().isEmpty());
+    }
+
+    void aNameOfItsOwnIsReported() {
+        FailingErrorSink sink;
+        sink.expectReport();
+        ErrorReport errors(false);
+        errors.SetSink(&sink);
+        Procedures(errors).Named();
+        QCOMPARE(sink.reports(), QStringList(u"KX4600 Programming Application: TextField GetValue\r\nbroken"_s));
+    }
+
+    void onlyTheFirstReportIsShown() {
+        FailingErrorSink sink;
+        sink.expectReport();
+        ErrorReport errors(false);
+        ErrorReport early(false);
+        early.ReportError(ErrorNumber::kBadArgument, QString(), u"without a sink"_s);
+        QVERIFY(early.HasReported());
+        errors.SetSink(&sink);
+        errors.ReportError(ErrorNumber::kBadArgument, QString(), u"first"_s);
+        errors.ReportError(ErrorNumber::kBadArgument, QString(), u"while closing"_s);
+        QCOMPARE(sink.reports(), QStringList(u"first"_s));
+    }
+
+    void foreignExceptionsGetANumber() {
+        QCOMPARE(current([] { throw std::bad_alloc(); }).Number, ErrorNumber::kOutOfMemory);
+        QCOMPARE(current([] { throw 7; }).Number, ErrorNumber::kBadArgument);
+        const RunTimeError error = current([] { throw std::runtime_error("disk"); });
+        QCOMPARE(error.Number, ErrorNumber::kBadArgument);
+        QCOMPARE(error.Description, u"disk"_s);
+    }
 };
-
-void tst_ErrorReport::contextLines_data() {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("after");
-    const QString line = u"KX4600 Programming Application: Notify_Change\r\n"_s;
-    QTest::newRow("a description") << u"broken"_s << line + u"broken"_s;
-    QTest::newRow("exactly the name") << u"Notify_Change"_s << u"Notify_Change"_s;
-    QTest::newRow("the name in another case") << u"notify_change"_s << line + u"notify_change"_s;
-    QTest::newRow("the name and more") << u"Notify_Change failed"_s << line + u"Notify_Change failed"_s;
-    QTest::newRow("nothing") << QString() << line;
-}
-
-void tst_ErrorReport::contextLines() {
-    QFETCH(QString, before);
-    RunTimeError error(ErrorNumber::kBadArgument, QString(), before);
-    ErrorReport::AddErrorContext(error, u"Notify_Change"_s);
-    QTEST(error.Description, "after");
-}
-
-void tst_ErrorReport::deliveredBuildReportsOnceAndGoesOn() {
-    FailingErrorSink sink;
-    sink.expectReport();
-    ErrorReport errors(false);
-    errors.SetSink(&sink);
-    Procedures procedures(errors);
-    QCOMPARE(procedures.Outer(), 1);
-    QVERIFY(procedures.wentOn());
-    QCOMPARE(sink.reports(), QStringList(u"KX4600 Programming Application: Inner\r\nbroken"_s));
-    QVERIFY(sink.MainWindowClosed());
-    QVERIFY(errors.HasReported());
-}
-
-void tst_ErrorReport::developmentRunTracesTheCalls() {
-    FailingErrorSink sink;
-    ErrorReport errors(true);
-    errors.SetSink(&sink);
-    Procedures procedures(errors);
-    const RunTimeError error = current([&] { (void)procedures.Outer(); });
-    QCOMPARE(error.Number, ErrorNumber::kMissingObject);
-    QCOMPARE(error.Source, u"source"_s);
-    QCOMPARE(error.Description,
-             u"KX4600 Programming Application: Outer\r\nKX4600 Programming Application: Inner\r\nbroken"_s);
-    QVERIFY(!procedures.wentOn());
-    QVERIFY(sink.reports().isEmpty());
-}
-
-void tst_ErrorReport::aNameOfItsOwnIsReported() {
-    FailingErrorSink sink;
-    sink.expectReport();
-    ErrorReport errors(false);
-    errors.SetSink(&sink);
-    Procedures(errors).Named();
-    QCOMPARE(sink.reports(), QStringList(u"KX4600 Programming Application: TextField GetValue\r\nbroken"_s));
-}
-
-void tst_ErrorReport::onlyTheFirstReportIsShown() {
-    FailingErrorSink sink;
-    sink.expectReport();
-    ErrorReport errors(false);
-    ErrorReport early(false);
-    early.ReportError(ErrorNumber::kBadArgument, QString(), u"without a sink"_s);
-    QVERIFY(early.HasReported());
-    errors.SetSink(&sink);
-    errors.ReportError(ErrorNumber::kBadArgument, QString(), u"first"_s);
-    errors.ReportError(ErrorNumber::kBadArgument, QString(), u"while closing"_s);
-    QCOMPARE(sink.reports(), QStringList(u"first"_s));
-}
-
-void tst_ErrorReport::foreignExceptionsGetANumber() {
-    QCOMPARE(current([] { throw std::bad_alloc(); }).Number, ErrorNumber::kOutOfMemory);
-    QCOMPARE(current([] { throw 7; }).Number, ErrorNumber::kBadArgument);
-    const RunTimeError error = current([] { throw std::runtime_error("disk"); });
-    QCOMPARE(error.Number, ErrorNumber::kBadArgument);
-    QCOMPARE(error.Description, u"disk"_s);
-}
 
 QTEST_GUILESS_MAIN(tst_ErrorReport)
 #include "tst_error_report.moc"

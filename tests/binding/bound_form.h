@@ -55,3 +55,13 @@ class BoundForm {
   private:
     std::vector<std::unique_ptr<FakeControl>> mOwned;
 };
+
+// Bound, with a text field "txtName" or a list "cboTone".
+struct TextForm : BoundForm {
+    TextForm() { bind(); }
+    FakeField &text = addText(QStringLiteral("txtName"));
+};
+struct ComboForm : BoundForm {
+    ComboForm() { bind(); }
+    FakeCombo &combo = add<FakeCombo>(QStringLiteral("cboTone"));
+};

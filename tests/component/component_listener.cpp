@@ -3,6 +3,8 @@
 #include "translation.h"
 #include "value_text.h"
 
+using namespace Qt::StringLiterals;
+
 void ComponentListener::add(const QString &line) {
     log.append(line);
     if (onEvent)
@@ -22,7 +24,7 @@ void ComponentListener::TransformerEvents_MsgBox(const QString &Prompt, qint32 B
                                                  qint32 &Answer, const QString &strParameters) {
     const QString text = Translation::Fill(Prompt, strParameters.split(u'|'));
     messages.append(text);
-    add(QStringLiteral("MsgBox ") + text);
+    add(u"MsgBox "_s + text);
     Answer = (Buttons & 7) == 0 ? 1 : answer;
 }
 
@@ -33,7 +35,7 @@ void ComponentListener::TransformerEvents_GeneralDialog(const QString &Prompt, q
 
 void ComponentListener::TransformerEvents_UpdateUIFieldByUIID(const QString &UIID, qint32 RecordNr,
                                                               const QVariant &Value) {
-    add(QStringLiteral("UpdateUIFieldByUIID %1 %2 %3").arg(UIID).arg(RecordNr).arg(ValueText::of(Value)));
+    add(u"UpdateUIFieldByUIID %1 %2 %3"_s.arg(UIID).arg(RecordNr).arg(ValueText::of(Value)));
 }
 
 void ComponentListener::TransformerEvents_ChangeToTier(const QString &TierKey, const QStringList & /*FormList*/,
@@ -41,6 +43,6 @@ void ComponentListener::TransformerEvents_ChangeToTier(const QString &TierKey, c
                                                        const QHash<QString, QVariant> & /*FormAccessLevels*/,
                                                        const QHash<QString, QVariant> & /*FormNetworks*/,
                                                        const QStringList & /*FormTypeList*/, bool &Result) {
-    add(QStringLiteral("ChangeToTier ") + TierKey);
+    add(u"ChangeToTier "_s + TierKey);
     Result = true;
 }

@@ -3,6 +3,8 @@
 #include "decimal_text.h"
 #include "item_lists.h"
 
+using namespace Qt::StringLiterals;
+
 void RandomEdits::make(int count) {
     for (int i = 0; i < count; ++i) {
         const int what = any(20);
@@ -65,7 +67,7 @@ void RandomEdits::setValue() {
     const qint32 record = 1 + any(count);
     bool ok = false;
     mComponent.SetValue(field.id, anyValue(field, record), record, true, ok);
-    mAccepted[QStringLiteral("set")] += ok ? 1 : 0;
+    mAccepted[u"set"_s] += ok ? 1 : 0;
 }
 
 void RandomEdits::changeRecords() {
@@ -84,7 +86,7 @@ void RandomEdits::changeRecords() {
         mComponent.RepeatRecord(structure.guide, record, QString(), ok);
     else
         mComponent.DeleteRecord(structure.guide, record, ok);
-    mAccepted[what < 2 ? QStringLiteral("add") : QStringLiteral("record %1").arg(what)] += ok ? 1 : 0;
+    mAccepted[what < 2 ? u"add"_s : u"record %1"_s.arg(what)] += ok ? 1 : 0;
 }
 
 void RandomEdits::sort() {
@@ -115,7 +117,6 @@ void RandomEdits::paste() {
         lines.append(cells.join(u'\t'));
     }
     mClipboard = lines.join(u'\n');
-    const bool ok =
-        mComponent.ImportRecordByPaste(QString(), columns.join(u'|'), nullptr, QString(), QStringLiteral("1"));
-    mAccepted[QStringLiteral("paste")] += ok ? 1 : 0;
+    const bool ok = mComponent.ImportRecordByPaste(QString(), columns.join(u'|'), nullptr, QString(), u"1"_s);
+    mAccepted[u"paste"_s] += ok ? 1 : 0;
 }

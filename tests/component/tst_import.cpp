@@ -1,5 +1,6 @@
 #include "component_listener.h"
 #include "component_state.h"
+#include "rows.h"
 #include "value_text.h"
 
 #include <QFile>
@@ -7,23 +8,154 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 // Rows of text pasted on the grid of channels: which record and column each cell goes to, and what is told of the rest.
 class tst_import : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void init();
-    void cleanup();
-    void rowsGoToTheirRecordsAndColumns_data();
-    void rowsGoToTheirRecordsAndColumns();
-    void refusedCellsAreToldByRowAndColumn_data();
-    void refusedCellsAreToldByRowAndColumn();
-    void exchangedIdentitiesTakeTheirReferencesAlong();
-    void whatASettingDecidesAboutWaitsForIt();
-    void lockedCellsArePassedOver();
-    void droppedRowsBecomeNewRecords();
-    void fixedRowsTakeNoMore();
-    void oneRevertTakesItAllBack();
+    void init() {
+        mFolder = std::make_unique<QTemporaryDir>();
+        QFile table(mFolder->filePath(u"table"_s));
+        QVERIFY(table.open(QIODevice::WriteOnly));
+        table.write("[2]\nTx Power\tPuissance\nLow\tBasse\nHigh\tHaute\nID\tNuméro\n");
+        table.close();
+        ComponentPlaces places;
+        places.settingsFile = mFolder->filePath(u"settings.ini"_s);
+        places.translationFile = table.fileName();
+        mComponent = std::make_unique<TransformerComponent>(places, [this] { return mClipboard; });
+        mComponent->AddListener(&mListener);
+        mComponent->ChangeTier(u"Advanced"_s);
+        mListener.clear();
+        mListener.answer = 6;
+    }
+
+    void cleanup() { mComponent.reset(); }
+
+    void rowsGoToTheirRecordsAndColumns() {
+        constexpr qint32 kYes = 6;
+        constexpr qint32 kNo = 7;
+        // wanted: in a grid of three channels, the second of which is the current one
+        for (const auto &[text, selection, focus, answer, wanted] : Rows<QString, QString, QString, qint32, QString>{
+                 {"by name, in another order", u"Rx Frequency\tID\r\n150\t7\r\n151\t5\r\n"_s, u""_s, u""_s, kNo,
+                  u"1 160 3,2 160 3,3 160 3,7 150 3,5 151 3"_s},
+                 {"by name, missing ones keep their value", u"Rx Frequency\r\n150\r\n"_s, u"3"_s, u""_s, kNo,
+                  u"1 160 3,2 160 3,3 150 3"_s},
+                 {"by name in the set language", u"Puissance\tRx Frequency\nBasse\t150\nLow\t151\n"_s, u"1|3"_s, u""_s,
+                  kNo, u"1 150 1,2 160 3,3 151 1"_s},
+                 {"a name twice is no line of heads", u"ID\tID\tID\n"_s, u""_s, u""_s, kNo,
+                  u"1 160 3,2 160 3,3 160 3,4 160 3"_s},
+                 {"as wide as the grid", u"9\t140.5\tLow\r\n8\t141\tHaute"_s, u""_s, u"TxPower_q7r"_s, kNo,
+                  u"1 160 3,2 160 3,3 160 3,9 140 1,8 141 3"_s},
+                 {"over the selection, the rest new", u"9\t140\tLow\n8\t141\tLow\n7\t142\tLow"_s, u"3|1"_s, u""_s, kNo,
+                  u"8 141 1,2 160 3,9 140 1,7 142 1"_s},
+                 {"a row for many selected ones", u"9\t140\tLow\n"_s, u"1|2|3"_s, u""_s, kNo,
+                  u"9 140 1,2 160 3,3 160 3"_s},
+                 {"a block from the current record on", u"150\tLow\n151\tLow\n152\tLow\n"_s, u""_s, u"RxFreq_q7r"_s,
+                  kYes, u"1 160 3,2 150 1,3 151 1,4 152 1"_s},
+                 {"a block that is not wanted", u"150\tLow\n"_s, u""_s, u"RxFreq_q7r"_s, kNo,
+                  u"1 160 3,2 160 3,3 160 3"_s},
+                 {"a block over the selection", u"Low\n"_s, u"1"_s, u"TxPower_q7r"_s, kNo,
+                  u"1 160 1,2 160 3,3 160 3"_s},
+                 {"a block without a focused column", u"12\n"_s, u"1"_s, u"EconomyTimer"_s, kNo,
+                  u"12 160 3,2 160 3,3 160 3"_s},
+                 {"nothing", u""_s, u""_s, u""_s, kNo, u"1 160 3,2 160 3,3 160 3"_s},
+             }) {
+            cleanup();
+            init();
+            addChannels(2);
+            QVERIFY(set("CurrentChannelNr", 2));
+            mComponent->SaveSetting(u"Language"_s, 2);
+            mComponent->FieldGotFocus(focus);
+            mListener.answer = answer;
+            const bool changed = paste(text, selection);
+            QCOMPARE(channels().join(u','), wanted);
+            QCOMPARE(changed, mComponent->GetFormIsDirty());
+            QCOMPARE(mListener.of(u"LastAction"_s).size(), changed ? 1 : 0);
+        }
+    }
+
+    void refusedCellsAreToldByRowAndColumn() {
+        // wanted: the two channels afterwards, with the new ones behind
+        for (const auto &[text, selection, told, wanted] : Rows<QString, QString, QString, QString>{
+                 {"outside the limits", u"9\t200\tLow"_s, u"1"_s,
+                  u"Row 1, column 2 (Rx Frequency): Rx Frequency must lie between 136 MHz"_s, u"9 160 1,2 160 3"_s},
+                 {"no item", u"ID\tTx Power\n9\tLowest"_s, u"1"_s,
+                  u"Row 2, column 2 (Tx Power): Lowest is not in the list"_s, u"9 160 3,2 160 3"_s},
+                 {"identity in use", u"2\t150\tLow\n2\t151\tLow"_s, u""_s,
+                  u"Row 1, column 1 (ID): ID 2 is already in use"_s, u"1 160 3,2 160 3,3 150 1,4 151 1"_s},
+                 {"identity twice", u"7\t150\tLow\n7\t151\tLow"_s, u"1"_s,
+                  u"Row 2, column 1 (ID): ID 7 is already in use"_s, u"7 150 1,2 160 3,1 151 1"_s},
+                 {"identity that stays in use", u"2\t150\tLow\n0\t151\tLow"_s, u"1|2"_s,
+                  u"Row 1, column 1 (ID): ID 2 is already in use"_s, u"1 150 1,2 151 1"_s},
+                 {"behind the last column", u"9\t150\tLow\textra"_s, u"1"_s,
+                  u"Row 1, column 4: There is no column for this cell."_s, u"9 150 1,2 160 3"_s},
+             }) {
+            cleanup();
+            init();
+            addChannels(1);
+            QVERIFY(paste(text, selection));
+            QCOMPARE(mListener.messages.size(), 1);
+            QVERIFY2(mListener.messages.first().contains(told), qPrintable(mListener.messages.first()));
+            QCOMPARE(channels().join(u','), wanted);
+        }
+    }
+
+    void exchangedIdentitiesTakeTheirReferencesAlong() {
+        addChannels(1);
+        QVERIFY(set("PowerOnMode", 1));
+        QVERIFY(set("ChannelGroupIDForRadioStartup", u"Channel 2"_s));
+        QVERIFY(paste(u"2\t150\tLow\n1\t151\tLow\n"_s, u"1|2"_s));
+        QVERIFY2(mListener.messages.isEmpty(), qPrintable(mListener.messages.join(u'\n')));
+        QCOMPARE(channels().join(u','), u"2 150 1,1 151 1"_s);
+        QCOMPARE(get("ChannelGroupIDForRadioStartup"), u"Channel 1"_s);
+    }
+
+    void whatASettingDecidesAboutWaitsForIt() {
+        // The action depends on the direction, which stands behind it.
+        QVERIFY(paste(u"Monitor\tInput\n"_s, u"4"_s, "DigitalIOAction|DigitalIODirection"));
+        QVERIFY2(mListener.messages.isEmpty(), qPrintable(mListener.messages.join(u'\n')));
+        QCOMPARE(get("DigitalIOAction", 4), u"Monitor"_s);
+    }
+
+    void lockedCellsArePassedOver() {
+        QVERIFY(mComponent->SetAccessLevel(40));
+        QVERIFY(paste(u"9\t200\tLow\n"_s, u"1"_s));
+        QVERIFY(mListener.messages.isEmpty());
+        QCOMPARE(channels().join(u','), u"1 160 1"_s);
+        QVERIFY(paste(u"Pin\tLabel\nundefined\tHorn\n"_s, u"4"_s, "DigitalIOPin|DigitalIOLabel"));
+        QCOMPARE(get("DigitalIOLabel", 4), QString()); // the pin is unused
+    }
+
+    void droppedRowsBecomeNewRecords() {
+        QMimeData data;
+        data.setText(u"9\t150\tLow\r\n"_s);
+        QVERIFY(mComponent->ImportRecordByDrop(QString(), QString::fromLatin1(kColumns), &data, nullptr, true));
+        QCOMPARE(channels().join(u','), u"1 160 3,9 150 1"_s);
+    }
+
+    void fixedRowsTakeNoMore() {
+        QVERIFY(paste(u"123\n456\n"_s, u"20"_s, "DTMFPresetSequence"));
+        QCOMPARE(get("DTMFPresetSequence", 20), u"123"_s);
+        QCOMPARE(mListener.messages.size(), 1);
+        QVERIFY2(mListener.messages.first().contains(u"The last 1 rows: "_s), qPrintable(mListener.messages.first()));
+    }
+
+    void oneRevertTakesItAllBack() {
+        addChannels(2);
+        QStringList lines;
+        for (int i = 0; i < 2000; ++i)
+            lines.append(u"%1\t150\tLow"_s.arg(5000 - i));
+        const TierData before = mComponent->state().current();
+        QVERIFY(paste(lines.join(u'\n'), u"1|2|3"_s));
+        QCOMPARE(mComponent->GetNumberOfRecords(u"ChannelID_q7r"_s), 2000);
+        QCOMPARE(get("ChannelID_q7r", 2000), u"3001"_s);
+        QVERIFY2(mListener.messages.isEmpty(), qPrintable(mListener.messages.join(u'\n')));
+        mComponent->RevertFormData(u"Advanced"_s);
+        QVERIFY(mComponent->state().current().sameValues(before));
+        QVERIFY(!mComponent->GetFormIsDirty());
+    }
 
   private:
     bool set(const char *uiid, const QVariant &value, qint32 record = 1) {
@@ -39,9 +171,25 @@ class tst_import : public QObject {
         mListener.clear();
         return mComponent->ImportRecordByPaste(QString(), QString::fromLatin1(columns), nullptr, QString(), selection);
     }
-    void addChannels(int count);
+    void addChannels(int count) {
+        for (int i = 0; i < count; ++i) {
+            qint32 added = 0;
+            bool ok = false;
+            mComponent->AddRecord(u"ChannelID_q7r"_s, QString(), added, ok);
+            QVERIFY(ok);
+        }
+        mComponent->SaveForm(QString());
+    }
+
     // "ID frequency power" of each channel.
-    [[nodiscard]] QStringList channels() const;
+    [[nodiscard]] QStringList channels() const {
+        QStringList lines;
+        for (qint32 record = 1; record <= mComponent->GetNumberOfRecords(u"ChannelID_q7r"_s); ++record)
+            lines.append(QStringList({get("ChannelID_q7r", record), get("RxFreq_q7r", record).section(u'.', 0, 0),
+                                      get("TxPower_q7r", record)})
+                             .join(u' '));
+        return lines;
+    }
 
     static constexpr const char *kColumns = "ChannelID_q7r|RxFreq_q7r|TxPower_q7r";
     std::unique_ptr<QTemporaryDir> mFolder;
@@ -49,181 +197,6 @@ class tst_import : public QObject {
     ComponentListener mListener;
     std::unique_ptr<TransformerComponent> mComponent;
 };
-
-void tst_import::init() {
-    mFolder = std::make_unique<QTemporaryDir>();
-    QFile table(mFolder->filePath(QStringLiteral("table")));
-    QVERIFY(table.open(QIODevice::WriteOnly));
-    table.write("[2]\nTx Power\tPuissance\nLow\tBasse\nHigh\tHaute\nID\tNuméro\n");
-    table.close();
-    ComponentPlaces places;
-    places.settingsFile = mFolder->filePath(QStringLiteral("settings.ini"));
-    places.translationFile = table.fileName();
-    mComponent = std::make_unique<TransformerComponent>(places, [this] { return mClipboard; });
-    mComponent->AddListener(&mListener);
-    mComponent->ChangeTier(QStringLiteral("Advanced"));
-    mListener.clear();
-    mListener.answer = 6;
-}
-
-void tst_import::cleanup() { mComponent.reset(); }
-
-void tst_import::addChannels(int count) {
-    for (int i = 0; i < count; ++i) {
-        qint32 added = 0;
-        bool ok = false;
-        mComponent->AddRecord(QStringLiteral("ChannelID_q7r"), QString(), added, ok);
-        QVERIFY(ok);
-    }
-    mComponent->SaveForm(QString());
-}
-
-QStringList tst_import::channels() const {
-    QStringList lines;
-    for (qint32 record = 1; record <= mComponent->GetNumberOfRecords(QStringLiteral("ChannelID_q7r")); ++record)
-        lines.append(QStringList({get("ChannelID_q7r", record), get("RxFreq_q7r", record).section(u'.', 0, 0),
-                                  get("TxPower_q7r", record)})
-                         .join(u' '));
-    return lines;
-}
-
-void tst_import::rowsGoToTheirRecordsAndColumns_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("selection");
-    QTest::addColumn<QString>("focus"); // in a grid of three channels, the second of which is the current one
-    QTest::addColumn<qint32>("answer");
-    QTest::addColumn<QString>("channels");
-    const auto row = [](const char *name, const char *text, const char *selection, const char *focus, qint32 answer,
-                        const char *channels) {
-        QTest::newRow(name) << QString::fromUtf8(text) << QString::fromLatin1(selection) << QString::fromLatin1(focus)
-                            << answer << QString::fromLatin1(channels);
-    };
-    constexpr qint32 kYes = 6;
-    constexpr qint32 kNo = 7;
-    row("by name, in another order", "Rx Frequency\tID\r\n150\t7\r\n151\t5\r\n", "", "", kNo,
-        "1 160 3,2 160 3,3 160 3,7 150 3,5 151 3");
-    row("by name, missing ones keep their value", "Rx Frequency\r\n150\r\n", "3", "", kNo, "1 160 3,2 160 3,3 150 3");
-    row("by name in the set language", "Puissance\tRx Frequency\nBasse\t150\nLow\t151\n", "1|3", "", kNo,
-        "1 150 1,2 160 3,3 151 1");
-    row("a name twice is no line of heads", "ID\tID\tID\n", "", "", kNo, "1 160 3,2 160 3,3 160 3,4 160 3");
-    row("as wide as the grid", "9\t140.5\tLow\r\n8\t141\tHaute", "", "TxPower_q7r", kNo,
-        "1 160 3,2 160 3,3 160 3,9 140 1,8 141 3");
-    row("over the selection, the rest new", "9\t140\tLow\n8\t141\tLow\n7\t142\tLow", "3|1", "", kNo,
-        "8 141 1,2 160 3,9 140 1,7 142 1");
-    row("a row for many selected ones", "9\t140\tLow\n", "1|2|3", "", kNo, "9 140 1,2 160 3,3 160 3");
-    row("a block from the current record on", "150\tLow\n151\tLow\n152\tLow\n", "", "RxFreq_q7r", kYes,
-        "1 160 3,2 150 1,3 151 1,4 152 1");
-    row("a block that is not wanted", "150\tLow\n", "", "RxFreq_q7r", kNo, "1 160 3,2 160 3,3 160 3");
-    row("a block over the selection", "Low\n", "1", "TxPower_q7r", kNo, "1 160 1,2 160 3,3 160 3");
-    row("a block without a focused column", "12\n", "1", "EconomyTimer", kNo, "12 160 3,2 160 3,3 160 3");
-    row("nothing", "", "", "", kNo, "1 160 3,2 160 3,3 160 3");
-}
-
-void tst_import::rowsGoToTheirRecordsAndColumns() {
-    QFETCH(QString, text);
-    QFETCH(QString, selection);
-    QFETCH(QString, focus);
-    QFETCH(qint32, answer);
-    QFETCH(QString, channels);
-    addChannels(2);
-    QVERIFY(set("CurrentChannelNr", 2));
-    mComponent->SaveSetting(QStringLiteral("Language"), 2);
-    mComponent->FieldGotFocus(focus);
-    mListener.answer = answer;
-    const bool changed = paste(text, selection);
-    QCOMPARE(tst_import::channels().join(u','), channels);
-    QCOMPARE(changed, mComponent->GetFormIsDirty());
-    QCOMPARE(mListener.of(QStringLiteral("LastAction")).size(), changed ? 1 : 0);
-}
-
-void tst_import::refusedCellsAreToldByRowAndColumn_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("selection");
-    QTest::addColumn<QString>("told");
-    QTest::addColumn<QString>("channels"); // of two
-    const auto row = [](const char *name, const char *first, const char *second, const char *third,
-                        const char *fourth) { QTest::newRow(name) << first << second << third << fourth; };
-    row("outside the limits", "9\t200\tLow", "1",
-        "Row 1, column 2 (Rx Frequency): Rx Frequency must lie between 136 MHz", "9 160 1,2 160 3");
-    row("no item", "ID\tTx Power\n9\tLowest", "1", "Row 2, column 2 (Tx Power): Lowest is not in the list",
-        "9 160 3,2 160 3");
-    row("identity in use", "2\t150\tLow\n2\t151\tLow", "", "Row 1, column 1 (ID): ID 2 is already in use",
-        "1 160 3,2 160 3,3 150 1,4 151 1");
-    row("identity twice", "7\t150\tLow\n7\t151\tLow", "1", "Row 2, column 1 (ID): ID 7 is already in use",
-        "7 150 1,2 160 3,1 151 1");
-    row("identity that stays in use", "2\t150\tLow\n0\t151\tLow", "1|2", "Row 1, column 1 (ID): ID 2 is already in use",
-        "1 150 1,2 151 1");
-    row("behind the last column", "9\t150\tLow\textra", "1", "Row 1, column 4: There is no column for this cell.",
-        "9 150 1,2 160 3");
-}
-
-void tst_import::refusedCellsAreToldByRowAndColumn() {
-    QFETCH(QString, text);
-    QFETCH(QString, selection);
-    QFETCH(QString, told);
-    QFETCH(QString, channels);
-    addChannels(1);
-    QVERIFY(paste(text, selection));
-    QCOMPARE(mListener.messages.size(), 1);
-    QVERIFY2(mListener.messages.first().contains(told), qPrintable(mListener.messages.first()));
-    QCOMPARE(tst_import::channels().join(u','), channels);
-}
-
-void tst_import::exchangedIdentitiesTakeTheirReferencesAlong() {
-    addChannels(1);
-    QVERIFY(set("PowerOnMode", 1));
-    QVERIFY(set("ChannelGroupIDForRadioStartup", QStringLiteral("Channel 2")));
-    QVERIFY(paste(QStringLiteral("2\t150\tLow\n1\t151\tLow\n"), QStringLiteral("1|2")));
-    QVERIFY2(mListener.messages.isEmpty(), qPrintable(mListener.messages.join(u'\n')));
-    QCOMPARE(channels().join(u','), QStringLiteral("2 150 1,1 151 1"));
-    QCOMPARE(get("ChannelGroupIDForRadioStartup"), QStringLiteral("Channel 1"));
-}
-
-void tst_import::whatASettingDecidesAboutWaitsForIt() {
-    // The action depends on the direction, which stands behind it.
-    QVERIFY(paste(QStringLiteral("Monitor\tInput\n"), QStringLiteral("4"), "DigitalIOAction|DigitalIODirection"));
-    QVERIFY2(mListener.messages.isEmpty(), qPrintable(mListener.messages.join(u'\n')));
-    QCOMPARE(get("DigitalIOAction", 4), QStringLiteral("Monitor"));
-}
-
-void tst_import::lockedCellsArePassedOver() {
-    QVERIFY(mComponent->SetAccessLevel(40));
-    QVERIFY(paste(QStringLiteral("9\t200\tLow\n"), QStringLiteral("1")));
-    QVERIFY(mListener.messages.isEmpty());
-    QCOMPARE(channels().join(u','), QStringLiteral("1 160 1"));
-    QVERIFY(paste(QStringLiteral("Pin\tLabel\nundefined\tHorn\n"), QStringLiteral("4"), "DigitalIOPin|DigitalIOLabel"));
-    QCOMPARE(get("DigitalIOLabel", 4), QString()); // the pin is unused
-}
-
-void tst_import::droppedRowsBecomeNewRecords() {
-    QMimeData data;
-    data.setText(QStringLiteral("9\t150\tLow\r\n"));
-    QVERIFY(mComponent->ImportRecordByDrop(QString(), QString::fromLatin1(kColumns), &data, nullptr, true));
-    QCOMPARE(channels().join(u','), QStringLiteral("1 160 3,9 150 1"));
-}
-
-void tst_import::fixedRowsTakeNoMore() {
-    QVERIFY(paste(QStringLiteral("123\n456\n"), QStringLiteral("20"), "DTMFPresetSequence"));
-    QCOMPARE(get("DTMFPresetSequence", 20), QStringLiteral("123"));
-    QCOMPARE(mListener.messages.size(), 1);
-    QVERIFY2(mListener.messages.first().contains(QStringLiteral("The last 1 rows: ")),
-             qPrintable(mListener.messages.first()));
-}
-
-void tst_import::oneRevertTakesItAllBack() {
-    addChannels(2);
-    QStringList lines;
-    for (int i = 0; i < 2000; ++i)
-        lines.append(QStringLiteral("%1\t150\tLow").arg(5000 - i));
-    const TierData before = mComponent->state().current();
-    QVERIFY(paste(lines.join(u'\n'), QStringLiteral("1|2|3")));
-    QCOMPARE(mComponent->GetNumberOfRecords(QStringLiteral("ChannelID_q7r")), 2000);
-    QCOMPARE(get("ChannelID_q7r", 2000), QStringLiteral("3001"));
-    QVERIFY2(mListener.messages.isEmpty(), qPrintable(mListener.messages.join(u'\n')));
-    mComponent->RevertFormData(QStringLiteral("Advanced"));
-    QVERIFY(mComponent->state().current().sameValues(before));
-    QVERIFY(!mComponent->GetFormIsDirty());
-}
 
 QTEST_GUILESS_MAIN(tst_import)
 #include "tst_import.moc"

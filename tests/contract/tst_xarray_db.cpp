@@ -1,3 +1,4 @@
+#include "rows.h"
 #include "run_time_error.h"
 #include "xarray_db.h"
 
@@ -33,93 +34,76 @@ class tst_XArrayDB : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void anEmptyOneHasNoCells();
-    void reDimKeepsTheCommonCells_data();
-    void reDimKeepsTheCommonCells();
-    void outsideRaisesNine();
-    void rowsAreInsertedAndDeletedInPlace_data();
-    void rowsAreInsertedAndDeletedInPlace();
-};
-
-void tst_XArrayDB::anEmptyOneHasNoCells() {
-    XArrayDB array;
-    QCOMPARE(array.LowerBound(1), 0);
-    QCOMPARE(array.UpperBound(1), -1);
-    QCOMPARE(array.UpperBound(2), -1);
-    array = filled(2, 1);
-    array.Clear();
-    QCOMPARE(array.LowerBound(2), 0);
-    QCOMPARE(array.UpperBound(1), -1);
-    QCOMPARE(array.UpperBound(2), -1);
-}
-
-void tst_XArrayDB::reDimKeepsTheCommonCells_data() {
-    QTest::addColumn<qint32>("upperRow");
-    QTest::addColumn<qint32>("upperColumn");
-    QTest::addColumn<QString>("cells");
-    QTest::newRow("same") << 1 << 1 << u"0,0 0,1/1,0 1,1"_s;
-    QTest::newRow("more rows") << 2 << 1 << u"0,0 0,1/1,0 1,1/ "_s;
-    QTest::newRow("fewer rows") << 0 << 1 << u"0,0 0,1"_s;
-    QTest::newRow("more columns") << 1 << 2 << u"0,0 0,1 /1,0 1,1 "_s;
-    QTest::newRow("fewer columns") << 1 << 0 << u"0,0/1,0"_s;
-    QTest::newRow("wider and lower") << 0 << 2 << u"0,0 0,1 "_s;
-    QTest::newRow("no rows") << -1 << 1 << QString();
-}
-
-void tst_XArrayDB::reDimKeepsTheCommonCells() {
-    QFETCH(qint32, upperRow);
-    QFETCH(qint32, upperColumn);
-    XArrayDB array = filled(1, 1);
-    array.ReDim(upperRow, upperColumn);
-    QCOMPARE(array.UpperBound(1), upperRow);
-    QCOMPARE(array.UpperBound(2), upperColumn);
-    QTEST(cellsOf(array), "cells");
-}
-
-void tst_XArrayDB::outsideRaisesNine() {
-    XArrayDB array = filled(1, 2);
-    const auto numberOf = [](auto &&action) {
-        try {
-            action();
-        } catch (const RunTimeError &error) {
-            return error.Number;
-        }
-        return 0;
-    };
-    // The last one is a cell of the next row where rows stand behind each other.
-    for (const auto &cell : {std::pair(-1, 0), std::pair(2, 0), std::pair(0, -1), std::pair(0, 3)}) {
-        QCOMPARE(numberOf([&] { (void)array.Value(cell.first, cell.second); }), ErrorNumber::kIndexOutOfRange);
-        QCOMPARE(numberOf([&] { array.SetValue(cell.first, cell.second, 1); }), ErrorNumber::kIndexOutOfRange);
+    void anEmptyOneHasNoCells() {
+        XArrayDB array;
+        QCOMPARE(array.LowerBound(1), 0);
+        QCOMPARE(array.UpperBound(1), -1);
+        QCOMPARE(array.UpperBound(2), -1);
+        array = filled(2, 1);
+        array.Clear();
+        QCOMPARE(array.LowerBound(2), 0);
+        QCOMPARE(array.UpperBound(1), -1);
+        QCOMPARE(array.UpperBound(2), -1);
     }
-    QCOMPARE(numberOf([&] { array.DeleteRow(2); }), ErrorNumber::kIndexOutOfRange);
-    QCOMPARE(numberOf([&] { array.InsertRow(3); }), ErrorNumber::kIndexOutOfRange);
-    QCOMPARE(numberOf([&] { (void)array.UpperBound(3); }), ErrorNumber::kIndexOutOfRange);
-    QCOMPARE(numberOf([&] { (void)array.LowerBound(0); }), ErrorNumber::kIndexOutOfRange);
-    QCOMPARE(numberOf([&] { array.ReDim(-2, 0); }), ErrorNumber::kIndexOutOfRange);
-    QCOMPARE(cellsOf(array), cellsOf(filled(1, 2)));
-}
 
-void tst_XArrayDB::rowsAreInsertedAndDeletedInPlace_data() {
-    QTest::addColumn<bool>("insert");
-    QTest::addColumn<qint32>("row");
-    QTest::addColumn<QString>("cells");
-    QTest::newRow("insert first") << true << 0 << u" /0,0 0,1/1,0 1,1"_s;
-    QTest::newRow("insert between") << true << 1 << u"0,0 0,1/ /1,0 1,1"_s;
-    QTest::newRow("insert behind the last") << true << 2 << u"0,0 0,1/1,0 1,1/ "_s;
-    QTest::newRow("delete first") << false << 0 << u"1,0 1,1"_s;
-    QTest::newRow("delete last") << false << 1 << u"0,0 0,1"_s;
-}
+    void reDimKeepsTheCommonCells() {
+        for (const auto &[upperRow, upperColumn, cells] : Rows<qint32, qint32, QString>{
+                 {"same", 1, 1, u"0,0 0,1/1,0 1,1"_s},
+                 {"more rows", 2, 1, u"0,0 0,1/1,0 1,1/ "_s},
+                 {"fewer rows", 0, 1, u"0,0 0,1"_s},
+                 {"more columns", 1, 2, u"0,0 0,1 /1,0 1,1 "_s},
+                 {"fewer columns", 1, 0, u"0,0/1,0"_s},
+                 {"wider and lower", 0, 2, u"0,0 0,1 "_s},
+                 {"no rows", -1, 1, {}},
+             }) {
+            XArrayDB array = filled(1, 1);
+            array.ReDim(upperRow, upperColumn);
+            QCOMPARE(array.UpperBound(1), upperRow);
+            QCOMPARE(array.UpperBound(2), upperColumn);
+            QCOMPARE(cellsOf(array), cells);
+        }
+    }
 
-void tst_XArrayDB::rowsAreInsertedAndDeletedInPlace() {
-    QFETCH(bool, insert);
-    QFETCH(qint32, row);
-    XArrayDB array = filled(1, 1);
-    if (insert)
-        array.InsertRow(row);
-    else
-        array.DeleteRow(row);
-    QTEST(cellsOf(array), "cells");
-}
+    void outsideRaisesNine() {
+        XArrayDB array = filled(1, 2);
+        const auto numberOf = [](auto &&action) {
+            try {
+                action();
+            } catch (const RunTimeError &error) {
+                return error.Number;
+            }
+            return 0;
+        };
+        // The last one is a cell of the next row where rows stand behind each other.
+        for (const auto &cell : {std::pair(-1, 0), std::pair(2, 0), std::pair(0, -1), std::pair(0, 3)}) {
+            QCOMPARE(numberOf([&] { (void)array.Value(cell.first, cell.second); }), ErrorNumber::kIndexOutOfRange);
+            QCOMPARE(numberOf([&] { array.SetValue(cell.first, cell.second, 1); }), ErrorNumber::kIndexOutOfRange);
+        }
+        QCOMPARE(numberOf([&] { array.DeleteRow(2); }), ErrorNumber::kIndexOutOfRange);
+        QCOMPARE(numberOf([&] { array.InsertRow(3); }), ErrorNumber::kIndexOutOfRange);
+        QCOMPARE(numberOf([&] { (void)array.UpperBound(3); }), ErrorNumber::kIndexOutOfRange);
+        QCOMPARE(numberOf([&] { (void)array.LowerBound(0); }), ErrorNumber::kIndexOutOfRange);
+        QCOMPARE(numberOf([&] { array.ReDim(-2, 0); }), ErrorNumber::kIndexOutOfRange);
+        QCOMPARE(cellsOf(array), cellsOf(filled(1, 2)));
+    }
+
+    void rowsAreInsertedAndDeletedInPlace() {
+        for (const auto &[insert, row, cells] : Rows<bool, qint32, QString>{
+                 {"insert first", true, 0, u" /0,0 0,1/1,0 1,1"_s},
+                 {"insert between", true, 1, u"0,0 0,1/ /1,0 1,1"_s},
+                 {"insert behind the last", true, 2, u"0,0 0,1/1,0 1,1/ "_s},
+                 {"delete first", false, 0, u"1,0 1,1"_s},
+                 {"delete last", false, 1, u"0,0 0,1"_s},
+             }) {
+            XArrayDB array = filled(1, 1);
+            if (insert)
+                array.InsertRow(row);
+            else
+                array.DeleteRow(row);
+            QCOMPARE(cellsOf(array), cells);
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(tst_XArrayDB)
 #include "tst_xarray_db.moc"

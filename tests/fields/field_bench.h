@@ -39,6 +39,13 @@ class FieldBench {
     QStringList takeHeard();
     // Makes the window active and empties what was heard.
     void show();
+    // Then the focus is in that field.
+    template <class Field>
+    void showWithFocus(Field &field) {
+        show();
+        field.Ifield_SetFocus();
+        heard.clear();
+    }
 
     // An inner part by its name.
     template <class Part>

@@ -19,11 +19,24 @@ class RecordingHost final : public HostEvents {
 
     void frmField_GotFocus() override { hear(QStringLiteral("GotFocus")); }
     void frmField_LostFocus() override { hear(QStringLiteral("LostFocus")); }
-    void frmField_Validate(bool &Cancel) override;
-    void frmField_ObjectEvent(const FieldEvent &Event) override;
+    void frmField_Validate(bool &Cancel) override {
+        hear(QStringLiteral("Validate"));
+        Cancel = refuseValidate;
+    }
+    void frmField_ObjectEvent(const FieldEvent &Event) override {
+        hear(Event.name());
+        if (Event.name() == QStringLiteral("ManualValidate"))
+            Event.parameter<bool &>(0) = refuseManualValidate;
+        if (Event.name() == QStringLiteral("GetFieldsInFrame"))
+            Event.parameter<QStringList &>(1) = fieldsInFrame;
+    }
 
   private:
-    void hear(const QString &event);
+    void hear(const QString &event) {
+        mHeard << mName + u'.' + event;
+        if (on)
+            on(event);
+    }
 
     QString mName;
     QStringList &mHeard;

@@ -4,6 +4,7 @@
 #include "fld_frame.h"
 #include "fld_id_tracker_field.h"
 #include "fld_text_field.h"
+#include "rows.h"
 
 #include <QApplication>
 #include <QDragEnterEvent>
@@ -13,8 +14,10 @@
 #include <QMouseEvent>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
-const QString kName = QStringLiteral("Target");
+const QString kName = u"Target"_s;
 
 // A drag of that text over the part and away again: whether enter and move were taken as a copy.
 bool offer(QWidget &part, const QString &text) {
@@ -62,166 +65,140 @@ QWidget &checkOf(const QWidget &field) { return FieldBench::part<QWidget>(field,
 class tst_field_drag final : public QObject {
     Q_OBJECT
   private Q_SLOTS:
-    void textFieldTakesOnlyItsOwnKind_data();
-    void textFieldTakesOnlyItsOwnKind();
-    void textFieldRefusesWhileItCannotBeEdited();
-    void droppedTextIsWrittenToTheShownRecord();
-    void refusedDropPutsTheOldTextBack();
-    void listTakesAnyKindWhoseTextIsAnItem();
-    void checkBoxTakesZeroAndOne();
-    void frameTakesNothing();
-    void dragStartsBehindTheThreshold_data();
-    void dragStartsBehindTheThreshold();
-    void onlyTheRightButtonDragsACheckBox();
-    void frameAsksForItsFields();
-};
-
-void tst_field_drag::textFieldTakesOnlyItsOwnKind_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("taken");
-    QTest::newRow("another text field") << QStringLiteral("Other|fldTextField|x") << true;
-    QTest::newRow("its own") << QStringLiteral("Target|fldTextField|x") << true;
-    QTest::newRow("an empty value") << QStringLiteral("Other|fldTextField|") << true;
-    QTest::newRow("a combo") << QStringLiteral("Other|fldComboField|x") << false;
-    QTest::newRow("a bar in the value") << QStringLiteral("Other|fldTextField|a|b") << false;
-    QTest::newRow("a frame") << QStringLiteral("Details|fldFrame~Other|fldTextField|x") << false;
-    QTest::newRow("a file") << QStringLiteral("file:///tmp/a.k4p") << false;
-}
-
-void tst_field_drag::textFieldTakesOnlyItsOwnKind() {
-    QFETCH(QString, text);
-    FieldBench bench;
-    auto &field = bench.add<fldTextField>(kName);
-    for (const char *part : {"Label1", "Text1"})
-        QTEST(offer(FieldBench::part<QWidget>(field, part), text), "taken");
-}
-
-void tst_field_drag::textFieldRefusesWhileItCannotBeEdited() {
-    FieldBench bench;
-    const QString text = QStringLiteral("Other|fldTextField|x");
-    auto &readOnly =
-        bench.add<fldTextField>(QStringLiteral("ReadOnly"), QVariantMap{{QStringLiteral("ReadOnly"), true}});
-    QVERIFY(!offer(labelOf(readOnly), text));
-    auto &field = bench.add<fldTextField>(kName);
-    field.Ifield_SetDisabled();
-    QVERIFY(!offer(labelOf(field), text));
-}
-
-void tst_field_drag::droppedTextIsWrittenToTheShownRecord() {
-    for (const auto &[stream, record] : {std::pair(0, 1), std::pair(1, 5)}) {
-        FieldBench bench;
-        auto &field = bench.add<fldTextField>(kName, QVariantMap{{QStringLiteral("NavigatorStream"), stream}});
-        field.Ifield_SetRecordNumber(5);
-        (void)bench.log.take();
-        drop(labelOf(field), QStringLiteral("Other|fldTextField|new"));
-        QCOMPARE(bench.log.linesOf(QStringLiteral("SetValue")),
-                 QStringList(QStringLiteral("SetValue(Target, new, %1, true)").arg(record)));
-        QCOMPARE(field.Text(), QStringLiteral("new"));
+    void textFieldTakesOnlyItsOwnKind() {
+        for (const auto &[text, taken] : Rows<QString, bool>{
+                 {"another text field", u"Other|fldTextField|x"_s, true},
+                 {"its own", u"Target|fldTextField|x"_s, true},
+                 {"an empty value", u"Other|fldTextField|"_s, true},
+                 {"a combo", u"Other|fldComboField|x"_s, false},
+                 {"a bar in the value", u"Other|fldTextField|a|b"_s, false},
+                 {"a frame", u"Details|fldFrame~Other|fldTextField|x"_s, false},
+                 {"a file", u"file:///tmp/a.k4p"_s, false},
+             }) {
+            FieldBench bench;
+            auto &field = bench.add<fldTextField>(kName);
+            for (const char *part : {"Label1", "Text1"})
+                QCOMPARE(offer(FieldBench::part<QWidget>(field, part), text), taken);
+        }
     }
-}
 
-void tst_field_drag::refusedDropPutsTheOldTextBack() {
-    FieldBench bench;
-    auto &field = bench.add<fldTextField>(kName);
-    field.Ifield_SetValue(QStringLiteral("old"), false);
-    bench.component.when(QStringLiteral("SetValue"), kName).refuses();
-    drop(labelOf(field), QStringLiteral("Other|fldTextField|new"));
-    QCOMPARE(field.Text(), QStringLiteral("old"));
-}
+    void textFieldRefusesWhileItCannotBeEdited() {
+        FieldBench bench;
+        const QString text = u"Other|fldTextField|x"_s;
+        auto &readOnly = bench.add<fldTextField>(u"ReadOnly"_s, QVariantMap{{u"ReadOnly"_s, true}});
+        QVERIFY(!offer(labelOf(readOnly), text));
+        auto &field = bench.add<fldTextField>(kName);
+        field.Ifield_SetDisabled();
+        QVERIFY(!offer(labelOf(field), text));
+    }
 
-void tst_field_drag::listTakesAnyKindWhoseTextIsAnItem() {
-    FieldBench bench;
-    auto &field = bench.add<fldComboField>(kName);
-    field.AddItem(QStringLiteral("Low"));
-    field.AddItem(QStringLiteral("High"));
-    field.Ifield_SetValue(0, false);
-    QVERIFY(!offer(labelOf(field), QStringLiteral("Other|fldComboField|high")));
-    QVERIFY(!offer(labelOf(field), QStringLiteral("Other|fldComboField|1")));
-    QVERIFY(offer(labelOf(field), QStringLiteral("Other|fldTextField|High")));
-    drop(FieldBench::part<QWidget>(field, "Combo1"), QStringLiteral("Other|fldTextField|High"));
-    QCOMPARE(field.ListIndex(), 1);
-    QCOMPARE(bench.takeHeard(), QStringList(QStringLiteral("Target.Click")));
-    field.Ifield_SetDisabled();
-    QVERIFY(!offer(labelOf(field), QStringLiteral("Other|fldTextField|Low")));
-}
+    void droppedTextIsWrittenToTheShownRecord() {
+        for (const auto &[stream, record] : {std::pair(0, 1), std::pair(1, 5)}) {
+            FieldBench bench;
+            auto &field = bench.add<fldTextField>(kName, QVariantMap{{u"NavigatorStream"_s, stream}});
+            field.Ifield_SetRecordNumber(5);
+            (void)bench.log.take();
+            drop(labelOf(field), u"Other|fldTextField|new"_s);
+            QCOMPARE(bench.log.linesOf(u"SetValue"_s), QStringList(u"SetValue(Target, new, %1, true)"_s.arg(record)));
+            QCOMPARE(field.Text(), u"new"_s);
+        }
+    }
 
-void tst_field_drag::checkBoxTakesZeroAndOne() {
-    struct Row {
-        const char *text;
-        bool offered;
-        int value;
-    };
-    for (const auto &[text, offered, value] :
-         {Row{"Other|fldCheckboxField|1", true, 1}, Row{"Other|fldCheckboxField|2", true, 0}, // offered, not taken
-          Row{"Other|fldTextField|a", false, 0}}) {
+    void refusedDropPutsTheOldTextBack() {
+        FieldBench bench;
+        auto &field = bench.add<fldTextField>(kName);
+        field.Ifield_SetValue(u"old"_s, false);
+        bench.component.when(u"SetValue"_s, kName).refuses();
+        drop(labelOf(field), u"Other|fldTextField|new"_s);
+        QCOMPARE(field.Text(), u"old"_s);
+    }
+
+    void listTakesAnyKindWhoseTextIsAnItem() {
+        FieldBench bench;
+        auto &field = bench.add<fldComboField>(kName);
+        field.AddItem(u"Low"_s);
+        field.AddItem(u"High"_s);
+        field.Ifield_SetValue(0, false);
+        QVERIFY(!offer(labelOf(field), u"Other|fldComboField|high"_s));
+        QVERIFY(!offer(labelOf(field), u"Other|fldComboField|1"_s));
+        QVERIFY(offer(labelOf(field), u"Other|fldTextField|High"_s));
+        drop(FieldBench::part<QWidget>(field, "Combo1"), u"Other|fldTextField|High"_s);
+        QCOMPARE(field.ListIndex(), 1);
+        QCOMPARE(bench.takeHeard(), QStringList(u"Target.Click"_s));
+        field.Ifield_SetDisabled();
+        QVERIFY(!offer(labelOf(field), u"Other|fldTextField|Low"_s));
+    }
+
+    void checkBoxTakesZeroAndOne() {
+        struct Row {
+            const char *text;
+            bool offered;
+            int value;
+        };
+        for (const auto &[text, offered, value] :
+             {Row{"Other|fldCheckboxField|1", true, 1}, Row{"Other|fldCheckboxField|2", true, 0}, // offered, not taken
+              Row{"Other|fldTextField|a", false, 0}}) {
+            FieldBench bench;
+            auto &field = bench.add<fldCheckboxField>(kName);
+            QCOMPARE(offer(checkOf(field), QString::fromLatin1(text)), offered);
+            if (offered)
+                drop(checkOf(field), QString::fromLatin1(text));
+            QCOMPARE(field.Ifield_GetValue().toInt(), value);
+        }
+    }
+
+    void frameTakesNothing() {
+        FieldBench bench;
+        auto &frame = bench.add<fldFrame>(kName);
+        for (const char *part : {"Frame1", "Label1"})
+            QVERIFY(!FieldBench::part<QWidget>(frame, part).acceptDrops());
+    }
+
+    void dragStartsBehindTheThreshold() {
+        for (const auto &[button, way, enabled, starts] : Rows<int, QPoint, bool, bool>{
+                 {"12 pixels are not more than 180 twips", int(Qt::LeftButton), {12, 0}, true, false},
+                 {"to the right", int(Qt::LeftButton), {13, 0}, true, true},
+                 {"upwards", int(Qt::LeftButton), {0, -13}, true, true},
+                 {"across, each less than the threshold", int(Qt::LeftButton), {12, 12}, true, false},
+                 {"right button", int(Qt::RightButton), {20, 0}, true, true},
+                 {"middle button", int(Qt::MiddleButton), {20, 0}, true, false},
+                 {"disabled field", int(Qt::LeftButton), {20, 0}, false, false},
+             }) {
+            FieldBench bench;
+            auto &field = bench.add<fldTextField>(kName, QVariantMap{{u"Enabled"_s, enabled}});
+            bench.show();
+            dragBy(labelOf(field), Qt::MouseButton(button), way);
+            const QStringList &told = bench.services.shell.told;
+            QCOMPARE(told.size(), starts ? 2 : 0); // the start and the end
+            if (starts)
+                QVERIFY(told.first().contains(kName) && told.first().contains(u"fldTextField"_s));
+        }
+    }
+
+    void onlyTheRightButtonDragsACheckBox() {
         FieldBench bench;
         auto &field = bench.add<fldCheckboxField>(kName);
-        QCOMPARE(offer(checkOf(field), QString::fromLatin1(text)), offered);
-        if (offered)
-            drop(checkOf(field), QString::fromLatin1(text));
-        QCOMPARE(field.Ifield_GetValue().toInt(), value);
+        bench.show();
+        dragBy(checkOf(field), Qt::LeftButton, {30, 0});
+        QCOMPARE(bench.services.shell.told, QStringList());
+        bench.takeHeard();
+        dragBy(checkOf(field), Qt::RightButton, {30, 0});
+        QCOMPARE(bench.services.shell.told.size(), 2);
+        QVERIFY(!bench.takeHeard().contains(u"Target.Click"_s));
+        dragBy(checkOf(field), Qt::LeftButton, {0, 0}); // a later click counts again
+        QVERIFY(bench.takeHeard().contains(u"Target.Click"_s));
     }
-}
 
-void tst_field_drag::frameTakesNothing() {
-    FieldBench bench;
-    auto &frame = bench.add<fldFrame>(kName);
-    for (const char *part : {"Frame1", "Label1"})
-        QVERIFY(!FieldBench::part<QWidget>(frame, part).acceptDrops());
-}
-
-void tst_field_drag::dragStartsBehindTheThreshold_data() {
-    QTest::addColumn<int>("button");
-    QTest::addColumn<QPoint>("way");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<bool>("starts");
-    QTest::newRow("12 pixels are not more than 180 twips") << int(Qt::LeftButton) << QPoint(12, 0) << true << false;
-    QTest::newRow("to the right") << int(Qt::LeftButton) << QPoint(13, 0) << true << true;
-    QTest::newRow("upwards") << int(Qt::LeftButton) << QPoint(0, -13) << true << true;
-    QTest::newRow("across, each less than the threshold") << int(Qt::LeftButton) << QPoint(12, 12) << true << false;
-    QTest::newRow("right button") << int(Qt::RightButton) << QPoint(20, 0) << true << true;
-    QTest::newRow("middle button") << int(Qt::MiddleButton) << QPoint(20, 0) << true << false;
-    QTest::newRow("disabled field") << int(Qt::LeftButton) << QPoint(20, 0) << false << false;
-}
-
-void tst_field_drag::dragStartsBehindTheThreshold() {
-    QFETCH(int, button);
-    QFETCH(QPoint, way);
-    QFETCH(bool, enabled);
-    QFETCH(bool, starts);
-    FieldBench bench;
-    auto &field = bench.add<fldTextField>(kName, QVariantMap{{QStringLiteral("Enabled"), enabled}});
-    bench.show();
-    dragBy(labelOf(field), Qt::MouseButton(button), way);
-    const QStringList &told = bench.services.shell.told;
-    QCOMPARE(told.size(), starts ? 2 : 0); // the start and the end
-    if (starts)
-        QVERIFY(told.first().contains(kName) && told.first().contains(QStringLiteral("fldTextField")));
-}
-
-void tst_field_drag::onlyTheRightButtonDragsACheckBox() {
-    FieldBench bench;
-    auto &field = bench.add<fldCheckboxField>(kName);
-    bench.show();
-    dragBy(checkOf(field), Qt::LeftButton, {30, 0});
-    QCOMPARE(bench.services.shell.told, QStringList());
-    bench.takeHeard();
-    dragBy(checkOf(field), Qt::RightButton, {30, 0});
-    QCOMPARE(bench.services.shell.told.size(), 2);
-    QVERIFY(!bench.takeHeard().contains(QStringLiteral("Target.Click")));
-    dragBy(checkOf(field), Qt::LeftButton, {0, 0}); // a later click counts again
-    QVERIFY(bench.takeHeard().contains(QStringLiteral("Target.Click")));
-}
-
-void tst_field_drag::frameAsksForItsFields() {
-    FieldBench bench;
-    auto &frame = bench.add<fldFrame>(kName, QVariantMap{{QStringLiteral("Caption"), QStringLiteral("Details")}});
-    bench.listener(kName).fieldsInFrame = {QStringLiteral("A|fldTextField|1"), QStringLiteral("B|fldComboField|2")};
-    bench.show();
-    dragBy(FieldBench::part<QWidget>(frame, "Frame1"), Qt::LeftButton, {20, 0});
-    QCOMPARE(bench.takeHeard(), QStringList(QStringLiteral("Target.GetFieldsInFrame")));
-    QVERIFY(bench.services.shell.told.first().contains(QStringLiteral("Details")));
-}
+    void frameAsksForItsFields() {
+        FieldBench bench;
+        auto &frame = bench.add<fldFrame>(kName, QVariantMap{{u"Caption"_s, u"Details"_s}});
+        bench.listener(kName).fieldsInFrame = {u"A|fldTextField|1"_s, u"B|fldComboField|2"_s};
+        bench.show();
+        dragBy(FieldBench::part<QWidget>(frame, "Frame1"), Qt::LeftButton, {20, 0});
+        QCOMPARE(bench.takeHeard(), QStringList(u"Target.GetFieldsInFrame"_s));
+        QVERIFY(bench.services.shell.told.first().contains(u"Details"_s));
+    }
+};
 
 QTEST_MAIN(tst_field_drag)
 #include "tst_field_drag.moc"

@@ -1,267 +1,139 @@
 #include "check_layout.h"
 #include "cls_format_edit.h"
-#include "combo_translation.h"
 #include "common_error_handler.h"
-#include "drag_payload.h"
 #include "field_properties.h"
 #include "label_layout.h"
+#include "rows.h"
 #include "run_time_error.h"
 #include "type_ahead.h"
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 class tst_field_rules final : public QObject {
     Q_OBJECT
   private Q_SLOTS:
-    void maskLetsOnlyItsCharactersPass_data();
-    void maskLetsOnlyItsCharactersPass();
-    void captionAndBoxShareTheWidth_data();
-    void captionAndBoxShareTheWidth();
-    void longCaptionMakesTheFieldHigher_data();
-    void longCaptionMakesTheFieldHigher();
-    void checkBoxStandsOnTheColumnLine_data();
-    void checkBoxStandsOnTheColumnLine();
-    void storedValueFindsItsItem_data();
-    void storedValueFindsItsItem();
-    void positionFindsItsStoredValue_data();
-    void positionFindsItsStoredValue();
-    void firstLettersChooseAnItem_data();
-    void firstLettersChooseAnItem();
-    void payloadHasThreeParts_data();
-    void payloadHasThreeParts();
-    void wrongPropertyIsRefusedByName_data();
-    void wrongPropertyIsRefusedByName();
+    void maskLetsOnlyItsCharactersPass() {
+        for (const auto &[mask, upperCase, typed, passed] : Rows<QString, bool, QString, QString>{
+                 {"no mask", u""_s, true, u"aB 9"_s, u"aB 9"_s},
+                 {"small letter becomes the mask's capital", u"ABC"_s, true, u"a"_s, u"A"_s},
+                 {"small letter of the mask stays small", u"abc"_s, true, u"a"_s, u"a"_s},
+                 {"capital does not become small", u"abc"_s, true, u"A"_s, u""_s},
+                 {"without upper-casing the letter is swallowed", u"ABC"_s, false, u"a"_s, u""_s},
+                 {"blank is a character like any other", u"ABC"_s, true, u" "_s, {}},
+                 {"blank in the mask", u"A "_s, true, u" "_s, u" "_s},
+                 {"control codes pass", u"ABC"_s, true, u"\x1b\b\r"_s, u"\x1b\b\r"_s},
+                 {"some of several pass", u"0123456789."_s, true, u"1a5.b2"_s, u"15.2"_s},
+             }) {
+            ErrorReport errors(false);
+            clsFormatEdit edit(errors);
+            edit.FormatMask(mask);
+            edit.UpperCase(upperCase);
+            QCOMPARE(edit.filtered(typed), passed);
+        }
+    }
+
+    void captionAndBoxShareTheWidth() {
+        for (const auto &[width, factor, labelWidth, boxLeft, boxWidth] : Rows<int, double, int, int, int>{
+                 {"default share", 5000, 0.6, 2800, 2900, 2000},
+                 {"no caption", 5000, 0.0, 0, 0, 4900},
+                 {"no box", 5000, 1.0, 4800, 4900, 0},
+                 {"too narrow for a caption", 300, 0.5, 0, 50, 150},
+                 {"caption of exactly no width", 400, 0.5, 0, 100, 200},
+                 {"shares are rounded to whole twips", 3333, 0.33, 900, 1000, 2233},
+             }) {
+            const LabelLayout::Parts parts = LabelLayout::layOut(Twips{width}, factor, {});
+            QCOMPARE(int(parts.label.width.count), labelWidth);
+            QCOMPARE(int(parts.editor.left.count), boxLeft);
+            QCOMPARE(int(parts.editor.width.count), boxWidth);
+            QCOMPARE(parts.height.count, 400);
+        }
+    }
+
+    void longCaptionMakesTheFieldHigher() {
+        for (const auto &[captionWidth, wrappedHeight, factor, labelTop, height] : Rows<int, int, double, int, int>{
+                 {"fits", 2800, 240, 0.6, 90, 400},
+                 {"wraps within the row", 2801, 390, 0.6, 0, 400},
+                 {"needs more than the row", 4000, 480, 0.6, 0, 480},
+                 {"a caption that is not shown needs nothing", 4000, 9000, 0.0, 90, 400},
+             }) {
+            const auto parts = LabelLayout::layOut(Twips{5000}, factor, {{captionWidth}, {wrappedHeight}});
+            QCOMPARE(int(parts.label.top.count), labelTop);
+            QCOMPARE(int(parts.height.count), height);
+        }
+    }
+
+    void checkBoxStandsOnTheColumnLine() {
+        for (const auto &[width, factor, caption, right, left, wantedSpan] : Rows<int, double, int, bool, int, int>{
+                 {"captions right", 5000, 0.6, 1000, true, 1800, 1300},
+                 {"caption wider than its share", 5000, 0.2, 1500, true, 0, 1100},
+                 {"caption just fits its share", 5000, 0.2, 1000, true, 0, 1300},
+                 {"box alone, captions right", 5000, 0.0, 150, true, 0, 450},
+                 {"captions left", 5000, 0.6, 1000, false, 0, 3090},
+                 {"factor close to 1", 3000, 0.97, 1000, true, 1700, 1300},
+                 {"box alone, captions left", 5000, 0.0, 150, false, 0, 4900},
+             }) {
+            const CheckLayout::Span span = CheckLayout::layOut({Twips{width}, factor, Twips{caption}, right});
+            QCOMPARE(int(span.left.count), left);
+            QCOMPARE(int(span.width.count), wantedSpan);
+        }
+    }
+
+    void firstLettersChooseAnItem() {
+        // typed: "<" takes a letter back
+        for (const auto &[typed, wantedIndex, nothingLeft] : Rows<QString, int, bool>{
+                 {"first letter", u"c"_s, 2, false},
+                 {"second letter keeps it", u"ch"_s, 2, false},
+                 {"first item from the top", u"b"_s, 1, false},
+                 {"more letters go further down", u"bri"_s, 3, false},
+                 {"a letter that fits nothing is dropped", u"cz"_s, 2, false},
+                 {"and does not spoil the next", u"czh"_s, 2, false},
+                 {"letter that fits no item at all goes to the first", u"z"_s, 0, true},
+                 {"taken back to nothing goes to the first", u"c<"_s, 0, true},
+                 {"taken back by one goes up again", u"bri<"_s, 1, false},
+                 {"taking back from nothing", u"<"_s, 0, true},
+                 {"blank belongs to the text", u"delta "_s, 4, false},
+             }) {
+            const QStringList items{u"Alpha"_s, u"Bravo"_s, u"Charlie"_s, u"Brink"_s, u"Delta Two"_s};
+            TypeAhead typeAhead;
+            int index = -1;
+            for (const QChar c : typed)
+                index = c == u'<' ? typeAhead.backspace(items) : typeAhead.type(c, items);
+            QCOMPARE(index, wantedIndex);
+            QCOMPARE(typeAhead.empty(), nothingLeft);
+        }
+    }
+
+    void wrongPropertyIsRefusedByName() {
+        for (const auto &[key, value, complaint] : Rows<QString, QVariant, QString>{
+                 {"whole number as text", u"Number"_s, u"2"_s, {}},
+                 {"whole number as a JSON number", u"Number"_s, 2.0, {}},
+                 {"unknown key", u"Captoin"_s, u"x"_s, u"is no property of this control"_s},
+                 {"key in another case", u"caption"_s, u"x"_s, u"is no property of this control"_s},
+                 {"number for a text", u"Caption"_s, 5, u"is no text"_s},
+                 {"text for a flag", u"Flag"_s, u"true"_s, u"is neither true nor false"_s},
+                 {"number for a flag", u"Flag"_s, 1, u"is neither true nor false"_s},
+                 {"text for a share", u"Factor"_s, u"0.6"_s, u"is no number"_s},
+                 {"fraction for a whole number", u"Number"_s, 2.5, u"is no whole number"_s},
+                 {"word for a whole number", u"Number"_s, u"two"_s, u"is no whole number"_s},
+             }) {
+            const FieldProperties properties{u"form.json"_s, u"fldA"_s, {{key, value}}};
+            QString told;
+            try {
+                PropertyReader reader(properties);
+                (void)reader.text(u"Caption"_s, {});
+                (void)reader.flag(u"Flag"_s, false);
+                (void)reader.real(u"Factor"_s, 0.6);
+                (void)reader.integer(u"Number"_s, 0);
+                reader.refuseUnknown();
+            } catch (const RunTimeError &error) {
+                told = error.Description;
+            }
+            QCOMPARE(told, complaint.isEmpty() ? QString() : u"form.json: fldA: \"%1\" %2"_s.arg(key, complaint));
+        }
+    }
 };
-
-void tst_field_rules::maskLetsOnlyItsCharactersPass_data() {
-    QTest::addColumn<QString>("mask");
-    QTest::addColumn<bool>("upperCase");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("passed");
-    const auto row = [](const char *name, const char *mask, bool upper, const char *typed, const char *passed) {
-        QTest::newRow(name) << QString::fromLatin1(mask) << upper << QString::fromLatin1(typed)
-                            << QString::fromLatin1(passed);
-    };
-    row("no mask", "", true, "aB 9", "aB 9");
-    row("small letter becomes the mask's capital", "ABC", true, "a", "A");
-    row("small letter of the mask stays small", "abc", true, "a", "a");
-    row("capital does not become small", "abc", true, "A", "");
-    row("without upper-casing the letter is swallowed", "ABC", false, "a", "");
-    row("blank is a character like any other", "ABC", true, " ", "");
-    row("blank in the mask", "A ", true, " ", " ");
-    row("control codes pass", "ABC", true, "\x1b\b\r", "\x1b\b\r");
-    row("some of several pass", "0123456789.", true, "1a5.b2", "15.2");
-}
-
-void tst_field_rules::maskLetsOnlyItsCharactersPass() {
-    QFETCH(QString, mask);
-    QFETCH(bool, upperCase);
-    QFETCH(QString, typed);
-    ErrorReport errors(false);
-    clsFormatEdit edit(errors);
-    edit.FormatMask(mask);
-    edit.UpperCase(upperCase);
-    QTEST(edit.filtered(typed), "passed");
-}
-
-void tst_field_rules::captionAndBoxShareTheWidth_data() {
-    QTest::addColumn<int>("width");
-    QTest::addColumn<double>("factor");
-    QTest::addColumn<int>("labelWidth");
-    QTest::addColumn<int>("boxLeft");
-    QTest::addColumn<int>("boxWidth");
-    QTest::newRow("default share") << 5000 << 0.6 << 2800 << 2900 << 2000;
-    QTest::newRow("no caption") << 5000 << 0.0 << 0 << 0 << 4900;
-    QTest::newRow("no box") << 5000 << 1.0 << 4800 << 4900 << 0;
-    QTest::newRow("too narrow for a caption") << 300 << 0.5 << 0 << 50 << 150;
-    QTest::newRow("caption of exactly no width") << 400 << 0.5 << 0 << 100 << 200;
-    QTest::newRow("shares are rounded to whole twips") << 3333 << 0.33 << 900 << 1000 << 2233;
-}
-
-void tst_field_rules::captionAndBoxShareTheWidth() {
-    QFETCH(int, width);
-    QFETCH(double, factor);
-    const LabelLayout::Parts parts = LabelLayout::layOut(Twips{width}, factor, {});
-    QTEST(int(parts.label.width.count), "labelWidth");
-    QTEST(int(parts.editor.left.count), "boxLeft");
-    QTEST(int(parts.editor.width.count), "boxWidth");
-    QCOMPARE(parts.height.count, 400);
-}
-
-void tst_field_rules::longCaptionMakesTheFieldHigher_data() {
-    QTest::addColumn<int>("captionWidth");
-    QTest::addColumn<int>("wrappedHeight");
-    QTest::addColumn<double>("factor");
-    QTest::addColumn<int>("labelTop");
-    QTest::addColumn<int>("height");
-    QTest::newRow("fits") << 2800 << 240 << 0.6 << 90 << 400;
-    QTest::newRow("wraps within the row") << 2801 << 390 << 0.6 << 0 << 400;
-    QTest::newRow("needs more than the row") << 4000 << 480 << 0.6 << 0 << 480;
-    QTest::newRow("a caption that is not shown needs nothing") << 4000 << 9000 << 0.0 << 90 << 400;
-}
-
-void tst_field_rules::longCaptionMakesTheFieldHigher() {
-    QFETCH(int, captionWidth);
-    QFETCH(int, wrappedHeight);
-    QFETCH(double, factor);
-    const auto parts = LabelLayout::layOut(Twips{5000}, factor, {{captionWidth}, {wrappedHeight}});
-    QTEST(int(parts.label.top.count), "labelTop");
-    QTEST(int(parts.height.count), "height");
-}
-
-void tst_field_rules::checkBoxStandsOnTheColumnLine_data() {
-    QTest::addColumn<int>("width");
-    QTest::addColumn<double>("factor");
-    QTest::addColumn<int>("caption");
-    QTest::addColumn<bool>("right");
-    QTest::addColumn<int>("left");
-    QTest::addColumn<int>("span");
-    QTest::newRow("captions right") << 5000 << 0.6 << 1000 << true << 1800 << 1300;
-    QTest::newRow("caption wider than its share") << 5000 << 0.2 << 1500 << true << 0 << 1100;
-    QTest::newRow("caption just fits its share") << 5000 << 0.2 << 1000 << true << 0 << 1300;
-    QTest::newRow("box alone, captions right") << 5000 << 0.0 << 150 << true << 0 << 450;
-    QTest::newRow("captions left") << 5000 << 0.6 << 1000 << false << 0 << 3090;
-    QTest::newRow("factor close to 1") << 3000 << 0.97 << 1000 << true << 1700 << 1300;
-    QTest::newRow("box alone, captions left") << 5000 << 0.0 << 150 << false << 0 << 4900;
-}
-
-void tst_field_rules::checkBoxStandsOnTheColumnLine() {
-    QFETCH(int, width);
-    QFETCH(double, factor);
-    QFETCH(int, caption);
-    QFETCH(bool, right);
-    const CheckLayout::Span span = CheckLayout::layOut({Twips{width}, factor, Twips{caption}, right});
-    QTEST(int(span.left.count), "left");
-    QTEST(int(span.width.count), "span");
-}
-
-void tst_field_rules::storedValueFindsItsItem_data() {
-    QTest::addColumn<QString>("map");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<int>("position");
-    const QString map = QStringLiteral("0|5|10");
-    QTest::newRow("first") << map << QStringLiteral("0") << 0;
-    QTest::newRow("middle") << map << QStringLiteral("5") << 1;
-    QTest::newRow("unknown value takes the last item") << map << QStringLiteral("7") << 2;
-    QTest::newRow("no value takes none") << map << QString() << -1;
-    QTest::newRow("compared as text") << map << QStringLiteral("05") << 2;
-    QTest::newRow("a single token") << QStringLiteral("3") << QStringLiteral("9") << 0;
-}
-
-void tst_field_rules::storedValueFindsItsItem() {
-    QFETCH(QString, map);
-    QFETCH(QString, value);
-    QTEST(int(ComboTransToUI(map, value)), "position");
-}
-
-void tst_field_rules::positionFindsItsStoredValue_data() {
-    QTest::addColumn<int>("position");
-    QTest::addColumn<int>("value");
-    QTest::addColumn<bool>("fails");
-    QTest::newRow("first") << 0 << 0 << false;
-    QTest::newRow("last") << 2 << 10 << false;
-    QTest::newRow("nothing chosen") << -1 << 0 << true;
-    QTest::newRow("past the end") << 3 << 0 << true;
-}
-
-void tst_field_rules::positionFindsItsStoredValue() {
-    QFETCH(int, position);
-    QFETCH(bool, fails);
-    try {
-        const int value = ComboTransFromUI(QStringLiteral("0|5|10"), position);
-        QVERIFY(!fails);
-        QTEST(value, "value");
-    } catch (const RunTimeError &error) {
-        QVERIFY(fails);
-        QCOMPARE(error.Description, QStringLiteral("Error setting combo item value "));
-    }
-}
-
-void tst_field_rules::firstLettersChooseAnItem_data() {
-    QTest::addColumn<QString>("typed"); // "<" takes a letter back
-    QTest::addColumn<int>("index");
-    QTest::addColumn<bool>("nothingLeft");
-    const auto row = [](const char *name, const char *typed, int index, bool nothingLeft) {
-        QTest::newRow(name) << QString::fromLatin1(typed) << index << nothingLeft;
-    };
-    row("first letter", "c", 2, false);
-    row("second letter keeps it", "ch", 2, false);
-    row("first item from the top", "b", 1, false);
-    row("more letters go further down", "bri", 3, false);
-    row("a letter that fits nothing is dropped", "cz", 2, false);
-    row("and does not spoil the next", "czh", 2, false);
-    row("letter that fits no item at all goes to the first", "z", 0, true);
-    row("taken back to nothing goes to the first", "c<", 0, true);
-    row("taken back by one goes up again", "bri<", 1, false);
-    row("taking back from nothing", "<", 0, true);
-    row("blank belongs to the text", "delta ", 4, false);
-}
-
-void tst_field_rules::firstLettersChooseAnItem() {
-    QFETCH(QString, typed);
-    const QStringList items{QStringLiteral("Alpha"), QStringLiteral("Bravo"), QStringLiteral("Charlie"),
-                            QStringLiteral("Brink"), QStringLiteral("Delta Two")};
-    TypeAhead typeAhead;
-    int index = -1;
-    for (const QChar c : typed)
-        index = c == u'<' ? typeAhead.backspace(items) : typeAhead.type(c, items);
-    QTEST(index, "index");
-    QTEST(typeAhead.empty(), "nothingLeft");
-}
-
-void tst_field_rules::payloadHasThreeParts_data() {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("valid");
-    QTest::newRow("a field") << QStringLiteral("TxPower|fldComboField|High") << true;
-    QTest::newRow("no value") << QStringLiteral("TxPower|fldTextField|") << true;
-    QTest::newRow("a bar in the value") << QStringLiteral("Name|fldTextField|a|b") << false;
-    QTest::newRow("a frame without fields") << QStringLiteral("Details|fldFrame") << false;
-    QTest::newRow("any text") << QStringLiteral("hello") << false;
-}
-
-void tst_field_rules::payloadHasThreeParts() {
-    QFETCH(QString, text);
-    const auto payload = DragPayload::fromText(text);
-    QTEST(payload.has_value(), "valid");
-    if (payload)
-        QCOMPARE(payload->toText(), text);
-}
-
-void tst_field_rules::wrongPropertyIsRefusedByName_data() {
-    QTest::addColumn<QVariantMap>("values");
-    QTest::addColumn<QString>("complaint"); // "" for none
-    const auto row = [](const char *name, const char *key, const QVariant &value, const char *complaint) {
-        QTest::newRow(name) << QVariantMap{{QString::fromLatin1(key), value}} << QString::fromLatin1(complaint);
-    };
-    row("whole number as text", "Number", QStringLiteral("2"), "");
-    row("whole number as a JSON number", "Number", 2.0, "");
-    row("unknown key", "Captoin", QStringLiteral("x"), "form.json: fldA: \"Captoin\" is no property of this control");
-    row("key in another case", "caption", QStringLiteral("x"),
-        "form.json: fldA: \"caption\" is no property of this control");
-    row("number for a text", "Caption", 5, "form.json: fldA: \"Caption\" is no text");
-    row("text for a flag", "Flag", QStringLiteral("true"), "form.json: fldA: \"Flag\" is neither true nor false");
-    row("number for a flag", "Flag", 1, "form.json: fldA: \"Flag\" is neither true nor false");
-    row("text for a share", "Factor", QStringLiteral("0.6"), "form.json: fldA: \"Factor\" is no number");
-    row("fraction for a whole number", "Number", 2.5, "form.json: fldA: \"Number\" is no whole number");
-    row("word for a whole number", "Number", QStringLiteral("two"), "form.json: fldA: \"Number\" is no whole number");
-}
-
-void tst_field_rules::wrongPropertyIsRefusedByName() {
-    QFETCH(QVariantMap, values);
-    const FieldProperties properties{QStringLiteral("form.json"), QStringLiteral("fldA"), values};
-    QString complaint;
-    try {
-        PropertyReader reader(properties);
-        (void)reader.text(QStringLiteral("Caption"), {});
-        (void)reader.flag(QStringLiteral("Flag"), false);
-        (void)reader.real(QStringLiteral("Factor"), 0.6);
-        (void)reader.integer(QStringLiteral("Number"), 0);
-        reader.refuseUnknown();
-    } catch (const RunTimeError &error) {
-        complaint = error.Description;
-    }
-    QTEST(complaint, "complaint");
-}
 
 QTEST_APPLESS_MAIN(tst_field_rules)
 #include "tst_field_rules.moc"

@@ -20,6 +20,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int kLeastRows = 6;
 
@@ -85,7 +87,7 @@ bool showsTip(QComboBox &list, const QString &text) {
 void FormGeometry::look(const QWidget &form, const QString &where) {
     mWhere = where;
     if (walk(form) == 0)
-        fault(form, QStringLiteral("is empty"));
+        fault(form, u"is empty"_s);
 }
 
 int FormGeometry::walk(const QWidget &parent) {
@@ -93,10 +95,10 @@ int FormGeometry::walk(const QWidget &parent) {
     for (qsizetype i = 0; i < children.size(); ++i) {
         const QWidget &child = *children[i];
         if (!parent.rect().contains(occupied(child)))
-            fault(child, QStringLiteral("leaves its parent"));
+            fault(child, u"leaves its parent"_s);
         for (qsizetype other = 0; other < i; ++other) {
             if (occupied(*children[other]).intersects(occupied(child)))
-                fault(child, QStringLiteral("overlaps ") + nameOf(*children[other]));
+                fault(child, u"overlaps "_s + nameOf(*children[other]));
         }
         lookAt(child);
     }
@@ -114,9 +116,9 @@ void FormGeometry::lookAt(const QWidget &widget) {
         lookAtGrid(*grid);
     const auto *tabs = qobject_cast<const QTabWidget *>(&widget);
     if (tabs != nullptr && walk(*tabs->currentWidget()) == 0)
-        fault(widget, QStringLiteral("has an empty page"));
+        fault(widget, u"has an empty page"_s);
     if (tabs != nullptr && tabs->tabBar()->sizeHint().width() > tabs->width())
-        fault(widget, QStringLiteral("has no room for its tabs"));
+        fault(widget, u"has no room for its tabs"_s);
     if (tabs == nullptr && !isLeaf(widget))
         walk(widget);
 }
@@ -156,24 +158,24 @@ void FormGeometry::lookAtList(QComboBox &list) {
     const int before = list.currentIndex();
     list.setCurrentIndex(widest);
     if (!showsTip(list, list.itemText(widest)))
-        fault(list, QStringLiteral("cuts without a tip: ") + list.itemText(widest));
+        fault(list, u"cuts without a tip: "_s + list.itemText(widest));
     list.setCurrentIndex(before);
 }
 
 void FormGeometry::lookAtGrid(const QTableView &grid) {
     const int rows = grid.viewport()->height() / grid.verticalHeader()->defaultSectionSize();
     if (rows < kLeastRows)
-        fault(grid, QStringLiteral("shows %1 rows").arg(rows));
+        fault(grid, u"shows %1 rows"_s.arg(rows));
 }
 
 void FormGeometry::note(int slack, const QWidget &widget, const QString &text) {
     if (slack < 0)
-        fault(widget, QStringLiteral("cuts its text by %1: %2").arg(-slack).arg(text));
-    mTight.push_back({slack, mWhere + QStringLiteral(": ") + nameOf(widget) + u' ' + text});
+        fault(widget, u"cuts its text by %1: %2"_s.arg(-slack).arg(text));
+    mTight.push_back({slack, mWhere + u": "_s + nameOf(widget) + u' ' + text});
 }
 
 void FormGeometry::fault(const QWidget &widget, const QString &what) {
-    mFaults << mWhere + QStringLiteral(": ") + nameOf(widget) + u' ' + what;
+    mFaults << mWhere + u": "_s + nameOf(widget) + u' ' + what;
 }
 
 QStringList FormGeometry::tightest(int count) const {
@@ -182,7 +184,7 @@ QStringList FormGeometry::tightest(int count) const {
     QStringList lines;
     for (const Tight &tight : sorted) {
         if (lines.size() < count)
-            lines << QStringLiteral("%1 px: %2").arg(tight.slack).arg(tight.where);
+            lines << u"%1 px: %2"_s.arg(tight.slack).arg(tight.where);
     }
     return lines;
 }

@@ -5,6 +5,8 @@
 
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 QString RecordingContent::storeRestorePoint(const RadioIdentity &, const QByteArray &present) {
     restorePoint = present;
     if (takesMilliseconds > 0)
@@ -26,7 +28,7 @@ QString RecordingContent::runStarts(const RadioIdentity &, quint32 oldCrc, quint
 }
 
 void RecordingProgress::phaseStarted(RadioPhase phase, qint32 total) {
-    phases << QStringLiteral("%1 %2").arg(RadioPhases::title(phase)).arg(total);
+    phases << u"%1 %2"_s.arg(RadioPhases::title(phase)).arg(total);
     moved << 0;
 }
 

@@ -1,18 +1,10 @@
 #include "model_test_support.h"
+#include "rows.h"
 #include "value_codec.h"
 
 #include <QTest>
 
-// Text forms of values and the way back, with the near misses.
-class ValueCodecTest : public QObject {
-    Q_OBJECT
-
-  private Q_SLOTS:
-    void aValueIsTakenOrRefused_data();
-    void aValueIsTakenOrRefused();
-    void everyFormComesBackAsItWent_data();
-    void everyFormComesBackAsItWent();
-};
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,169 +12,134 @@ constexpr int kTaken = -1;
 using Kind = ValueFault::Kind;
 using Parse = ValueResult (*)(const FieldDefinition &, const QVariant &, const NumberLimits &);
 
-ValueResult shown(const FieldDefinition &field, const QVariant &value, const NumberLimits &limits) {
-    return ValueCodec::parseShown(field, value.toString(), limits);
-}
 ValueResult raw(const FieldDefinition &field, const QVariant &value, const NumberLimits &limits) {
     return ValueCodec::parseRaw(field, value.toString(), limits);
 }
 
-void compare(const ValueResult &result, const QVariant &stored, int fault) {
+void compare(const ValueResult &result, const QVariant &stored, int fault, const QString &what) {
     if (const auto *value = std::get_if<StoredValue>(&result)) {
-        QCOMPARE(kTaken, fault);
-        QCOMPARE(value->isText() ? QVariant(value->text()) : QVariant(value->number()), stored);
+        const QVariant taken = value->isText() ? QVariant(value->text()) : QVariant(value->number());
+        QVERIFY2(fault == kTaken && taken == stored, qPrintable(what + u" is taken as "_s + taken.toString()));
     } else {
-        QCOMPARE(int(std::get<ValueFault>(result).kind), fault);
+        const int found = int(std::get<ValueFault>(result).kind);
+        QVERIFY2(found == fault, qPrintable(what + u" is refused as "_s + QString::number(found)));
     }
 }
 
 } // namespace
 
-Q_DECLARE_METATYPE(Parse)
+// Text forms of values and the way back, with the near misses.
+class ValueCodecTest : public QObject {
+    Q_OBJECT
 
-void ValueCodecTest::aValueIsTakenOrRefused_data() {
-    QTest::addColumn<Parse>("parse");
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<int>("fault");
-    const auto good = [](const char *id, const char *text, const QVariant &stored) {
-        QTest::addRow("%s takes '%s'", id, text)
-            << Parse(shown) << QString::fromLatin1(id) << QVariant(QString::fromUtf8(text)) << stored << kTaken;
-    };
-    const auto bad = [](const char *id, const char *text, Kind fault) {
-        QTest::addRow("%s refuses '%s'", id, text)
-            << Parse(shown) << QString::fromLatin1(id) << QVariant(QString::fromUtf8(text)) << QVariant() << int(fault);
-    };
-    good("Rx", "156.5", 156500000);
-    good("Rx", "156,5", 156500000);
-    good("Rx", " 156.500000 ", 156500000);
-    good("Rx", "156.50000000", 156500000);
-    good("Rx", "+156.00625", 156006250); // of the other raster
-    good("Rx", "40", 40000000);
-    good("Rx", "174", 174000000);
-    good("Rx", "040.", 40000000);
-    bad("Rx", "156.501", Kind::OffRaster);
-    bad("Rx", "156.5000001", Kind::OffRaster);
-    bad("Rx", "174.0000001", Kind::OutOfRange);
-    bad("Rx", "39.9975", Kind::OutOfRange);
-    bad("Rx", "999999999999999999999999", Kind::OutOfRange);
-    bad("Rx", "-156.5", Kind::OutOfRange);
-    bad("Rx", "156.5.0", Kind::NotANumber);
-    bad("Rx", "1.565e2", Kind::NotANumber);
-    bad("Rx", "156.5 MHz", Kind::NotANumber);
-    bad("Rx", "", Kind::NotANumber);
-    bad("Rx", ".", Kind::NotANumber);
-    bad("Rx", "١٥٦", Kind::NotANumber);
-    good("Offset", "-10.5", -105);
-    good("Offset", "-0.5", -5);
-    good("Offset", ",5", 5);
-    bad("Offset", "-10.51", Kind::OutOfRange);
-    bad("Offset", "-0.51", Kind::OffRaster);
-    bad("Offset", "0.4", Kind::OffRaster);
-    good("Delay", "20", 20);
-    good("Delay", "500.0", 500);
-    bad("Delay", "19", Kind::OutOfRange);
-    bad("Delay", "21", Kind::OffRaster);
-    bad("Delay", "40.5", Kind::OffRaster);
-    good("Owner", "aBcabc", QStringLiteral("aBcabc"));
-    good("Owner", "x", QStringLiteral("X")); // only the upper-case letter is in the mask
-    good("Owner", "", QString());
-    good("Owner", " ", QStringLiteral(" "));
-    bad("Owner", "d", Kind::BadCharacter);
-    bad("Owner", "abcabcd", Kind::BadCharacter);
-    bad("Owner", "abcabca", Kind::TooLong);
-    good("SlotText", "äß", QStringLiteral("äß"));
-    bad("SlotText", "€", Kind::BadCharacter);
-    bad("SlotText", "a\tb", Kind::BadCharacter);
-    good("Power", "High", 1);
-    good("BurstTone", "B", 7);
-    bad("Power", "high", Kind::NotInList);
-    bad("Power", "1", Kind::NotInList);
-    good("Beep", "0", 0);
-    good("Beep", "-1", 1); // true in text form
-    bad("Beep", "2", Kind::NotInList);
-    good("MemberChannel", "None", 0);
-    good("MemberChannel", "12", 12);
-    bad("MemberChannel", "0", Kind::NoSuchRecord);
-    bad("MemberChannel", "Channel 12", Kind::NoSuchRecord);
-    bad("Network", "None", Kind::NoSuchRecord);
-    good("Start", "Channel 5", 5);
-    good("Start", "Group 5", ReferenceTargets::kPlaceFactor + 5);
-    bad("Start", "5", Kind::NoSuchRecord);
-    bad("Start", "Group 70000", Kind::NoSuchRecord);
-    bad("Start", "Group -1", Kind::NoSuchRecord);
-    good("ChannelID", "9", 9);
-    bad("ChannelID", "10", Kind::OutOfRange);
-    bad("ChannelID", "0", Kind::OutOfRange);
-    bad("NetworkID", "1", Kind::ReadOnly);
-    const auto other = [](const char *name, Parse parse, const char *id, const QVariant &value, const QVariant &stored,
-                          int fault = kTaken) {
-        QTest::newRow(name) << parse << QString::fromLatin1(id) << value << stored << fault;
-    };
-    const Parse bound = ValueCodec::parseBoundary;
-    other("a double keeps its raster", bound, "Rx", 156.0125, 156012500);
-    other("a double off the raster", bound, "Rx", 156.0001, {}, int(Kind::OffRaster));
-    other("nothing is no number", bound, "Delay", QVariant(), {}, int(Kind::NotANumber));
-    other("an item's text of an ID tracker", bound, "BurstTone", QStringLiteral("B"), 7);
-    other("a list by its value as text", bound, "Power", QStringLiteral(" 1"), 1);
-    other("a list by its text", bound, "Power", QStringLiteral("High"), {}, int(Kind::NotInList));
-    other("a list between two items", bound, "Power", 0.4, 0); // rounds half to even
-    other("a list beyond 32 bits", bound, "Power", 1e12, {}, int(Kind::NotInList));
-    other("a true flag", bound, "Beep", true, 1);
-    other("a reference as number", bound, "MemberChannel", 3, 3);
-    other("a stored value with a point", raw, "Rx", QStringLiteral("156.5"), {}, int(Kind::NotANumber));
-    other("a stored value off the raster", raw, "Rx", QStringLiteral("156500001"), {}, int(Kind::OffRaster));
-    other("a stored value of no item", raw, "BurstTone", QStringLiteral("1"), {}, int(Kind::NotInList));
-    other("a stored flag of 2", raw, "Beep", QStringLiteral("2"), {}, int(Kind::NotInList));
-    other("a stored place of 2 of 2", raw, "Start", QStringLiteral("131073"), {}, int(Kind::NoSuchRecord));
-    other("a stored text keeps its case", raw, "Owner", QStringLiteral("x"), {}, int(Kind::BadCharacter));
-    other("a stored None where there is none", raw, "Network", QStringLiteral("0"), {}, int(Kind::NoSuchRecord));
-}
+  private Q_SLOTS:
+    void shownTextsAreTakenOrRefused() {
+        const auto dictionary = SmallDictionary::make();
+        using Good = std::vector<std::pair<const char *, QVariant>>;
+        for (const auto &[id, texts] : {
+                 std::pair("Rx", Good{{"156.5", 156500000},
+                                      {"156,5", 156500000},
+                                      {" 156.500000 ", 156500000},
+                                      {"156.50000000", 156500000},
+                                      {"+156.00625", 156006250},
+                                      {"40", 40000000},
+                                      {"174", 174000000},
+                                      {"040.", 40000000}}),
+                 std::pair("Offset", Good{{"-10.5", -105}, {"-0.5", -5}, {",5", 5}}),
+                 std::pair("Delay", Good{{"20", 20}, {"500.0", 500}}),
+                 std::pair("Owner", Good{{"aBcabc", u"aBcabc"_s}, {"x", u"X"_s}, {"", QString()}, {" ", u" "_s}}),
+                 std::pair("SlotText", Good{{"äß", u"äß"_s}}),
+                 std::pair("Power", Good{{"High", 1}}),
+                 std::pair("BurstTone", Good{{"B", 7}}),
+                 std::pair("Beep", Good{{"0", 0}, {"-1", 1}}),
+                 std::pair("MemberChannel", Good{{"None", 0}, {"12", 12}}),
+                 std::pair("Start", Good{{"Channel 5", 5}, {"Group 5", ReferenceTargets::kPlaceFactor + 5}}),
+                 std::pair("ChannelID", Good{{"9", 9}}),
+             }) {
+            const FieldDefinition &field = *dictionary->find(QLatin1String(id));
+            for (const auto &[text, stored] : texts)
+                compare(ValueCodec::parseShown(field, QString::fromUtf8(text), field.limits), stored, kTaken,
+                        field.id + u' ' + QString::fromUtf8(text));
+        }
+        using Texts = std::vector<const char *>;
+        for (const auto &[id, fault, texts] : {
+                 std::tuple("Rx", Kind::OffRaster, Texts{"156.501", "156.5000001"}),
+                 std::tuple("Rx", Kind::OutOfRange,
+                            Texts{"174.0000001", "39.9975", "999999999999999999999999", "-156.5"}),
+                 std::tuple("Rx", Kind::NotANumber, Texts{"156.5.0", "1.565e2", "156.5 MHz", "", ".", "١٥٦"}),
+                 std::tuple("Offset", Kind::OutOfRange, Texts{"-10.51"}),
+                 std::tuple("Offset", Kind::OffRaster, Texts{"-0.51", "0.4"}),
+                 std::tuple("Delay", Kind::OutOfRange, Texts{"19"}),
+                 std::tuple("Delay", Kind::OffRaster, Texts{"21", "40.5"}),
+                 std::tuple("Owner", Kind::BadCharacter, Texts{"d", "abcabcd"}),
+                 std::tuple("Owner", Kind::TooLong, Texts{"abcabca"}),
+                 std::tuple("SlotText", Kind::BadCharacter, Texts{"€", "a\tb"}),
+                 std::tuple("Power", Kind::NotInList, Texts{"high", "1"}),
+                 std::tuple("Beep", Kind::NotInList, Texts{"2"}),
+                 std::tuple("MemberChannel", Kind::NoSuchRecord, Texts{"0", "Channel 12"}),
+                 std::tuple("Network", Kind::NoSuchRecord, Texts{"None"}),
+                 std::tuple("Start", Kind::NoSuchRecord, Texts{"5", "Group 70000", "Group -1"}),
+                 std::tuple("ChannelID", Kind::OutOfRange, Texts{"10", "0"}),
+                 std::tuple("NetworkID", Kind::ReadOnly, Texts{"1"}),
+             }) {
+            const FieldDefinition &field = *dictionary->find(QLatin1String(id));
+            for (const char *text : texts)
+                compare(ValueCodec::parseShown(field, QString::fromUtf8(text), field.limits), {}, int(fault),
+                        field.id + u' ' + QString::fromUtf8(text));
+        }
+    }
 
-void ValueCodecTest::aValueIsTakenOrRefused() {
-    QFETCH(Parse, parse);
-    QFETCH(QString, id);
-    QFETCH(QVariant, value);
-    QFETCH(QVariant, stored);
-    QFETCH(int, fault);
-    const auto dictionary = SmallDictionary::make();
-    const FieldDefinition &field = *dictionary->find(id);
-    compare(parse(field, value, field.limits), stored, fault);
-}
+    void valuesOfTheBoundaryAndOfFilesAreTakenOrRefused() {
+        const Parse bound = ValueCodec::parseBoundary;
+        const auto dictionary = SmallDictionary::make();
+        for (const auto &[parse, id, value, stored, fault] : Rows<Parse, QString, QVariant, QVariant, int>{
+                 {"a double keeps its raster", bound, u"Rx"_s, 156.0125, 156012500, kTaken},
+                 {"a double off the raster", bound, u"Rx"_s, 156.0001, {}, int(Kind::OffRaster)},
+                 {"nothing is no number", bound, u"Delay"_s, {}, {}, int(Kind::NotANumber)},
+                 {"an item's text of an ID tracker", bound, u"BurstTone"_s, u"B"_s, 7, kTaken},
+                 {"a list by its value as text", bound, u"Power"_s, u" 1"_s, 1, kTaken},
+                 {"a list by its text", bound, u"Power"_s, u"High"_s, {}, int(Kind::NotInList)},
+                 {"a list between two items", bound, u"Power"_s, 0.4, 0, kTaken},
+                 {"a list beyond 32 bits", bound, u"Power"_s, 1e12, {}, int(Kind::NotInList)},
+                 {"a true flag", bound, u"Beep"_s, true, 1, kTaken},
+                 {"a reference as number", bound, u"MemberChannel"_s, 3, 3, kTaken},
+                 {"a stored value with a point", raw, u"Rx"_s, u"156.5"_s, {}, int(Kind::NotANumber)},
+                 {"a stored value off the raster", raw, u"Rx"_s, u"156500001"_s, {}, int(Kind::OffRaster)},
+                 {"a stored value of no item", raw, u"BurstTone"_s, u"1"_s, {}, int(Kind::NotInList)},
+                 {"a stored flag of 2", raw, u"Beep"_s, u"2"_s, {}, int(Kind::NotInList)},
+                 {"a stored place of 2 of 2", raw, u"Start"_s, u"131073"_s, {}, int(Kind::NoSuchRecord)},
+                 {"a stored text keeps its case", raw, u"Owner"_s, u"x"_s, {}, int(Kind::BadCharacter)},
+                 {"a stored None where there is none", raw, u"Network"_s, u"0"_s, {}, int(Kind::NoSuchRecord)},
+             }) {
+            const FieldDefinition &field = *dictionary->find(id);
+            compare(parse(field, value, field.limits), stored, fault, id + u' ' + value.toString());
+        }
+    }
 
-void ValueCodecTest::everyFormComesBackAsItWent_data() {
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<qint32>("stored");
-    QTest::addColumn<QString>("shown");
-    const auto row = [](const char *id, qint32 stored, const char *shown) {
-        QTest::addRow("%s %d", id, stored) << QString::fromLatin1(id) << stored << QString::fromLatin1(shown);
-    };
-    row("Rx", 156500000, "156.500000");
-    row("Rx", 40000000, "040.000000");
-    row("Offset", -5, "-0.5");
-    row("Offset", 0, "0.0");
-    row("Delay", 500, "500");
-    row("Power", 2, "Turbo");
-    row("BurstTone", 7, "B");
-    row("Beep", 1, "1");
-    row("Start", 0, "None");
-    row("Start", 9, "Channel 9");
-    row("Start", ReferenceTargets::kPlaceFactor + 3, "Group 3");
-    row("ChannelID", 4, "4");
-}
-
-void ValueCodecTest::everyFormComesBackAsItWent() {
-    QFETCH(QString, id);
-    QFETCH(qint32, stored);
-    QFETCH(QString, shown);
-    const auto dictionary = SmallDictionary::make();
-    const FieldDefinition &field = *dictionary->find(id);
-    QCOMPARE(ValueCodec::shown(field, stored), shown);
-    compare(ValueCodec::parseShown(field, shown, field.limits), stored, kTaken);
-    compare(ValueCodec::parseBoundary(field, ValueCodec::boundary(field, stored), field.limits), stored, kTaken);
-    compare(ValueCodec::parseRaw(field, ValueCodec::raw(stored), field.limits), stored, kTaken);
-}
+    void everyFormComesBackAsItWent() {
+        const auto dictionary = SmallDictionary::make();
+        for (const auto &[id, stored, shown] : {std::tuple(u"Rx"_s, 156500000, u"156.500000"_s),
+                                                {u"Rx"_s, 40000000, u"040.000000"_s},
+                                                {u"Offset"_s, -5, u"-0.5"_s},
+                                                {u"Offset"_s, 0, u"0.0"_s},
+                                                {u"Delay"_s, 500, u"500"_s},
+                                                {u"Power"_s, 2, u"Turbo"_s},
+                                                {u"BurstTone"_s, 7, u"B"_s},
+                                                {u"Beep"_s, 1, u"1"_s},
+                                                {u"Start"_s, 0, u"None"_s},
+                                                {u"Start"_s, 9, u"Channel 9"_s},
+                                                {u"Start"_s, ReferenceTargets::kPlaceFactor + 3, u"Group 3"_s},
+                                                {u"ChannelID"_s, 4, u"4"_s}}) {
+            const FieldDefinition &field = *dictionary->find(id);
+            QCOMPARE(ValueCodec::shown(field, stored), shown);
+            compare(ValueCodec::parseShown(field, shown, field.limits), stored, kTaken, id + u' ' + shown);
+            compare(ValueCodec::parseBoundary(field, ValueCodec::boundary(field, stored), field.limits), stored, kTaken,
+                    id + u' ' + shown);
+            compare(ValueCodec::parseRaw(field, ValueCodec::raw(stored), field.limits), stored, kTaken,
+                    id + u' ' + shown);
+        }
+    }
+};
 
 QTEST_GUILESS_MAIN(ValueCodecTest)
 #include "value_codec_test.moc"

@@ -2,21 +2,23 @@
 
 #include "value_text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 // The parameters that are worth a line, by event.
 QVariantList parametersOf(const FieldEvent &event) {
     const QString &name = event.name();
-    if (name == QStringLiteral("SetProviderUpdateUIOnFieldChange"))
+    if (name == u"SetProviderUpdateUIOnFieldChange"_s)
         return {event.parameter<bool>(0)};
-    if (name == QStringLiteral("RowSelectionChanged") || name == QStringLiteral("Change"))
+    if (name == u"RowSelectionChanged"_s || name == u"Change"_s)
         return {event.parameter<qint32>(0)};
-    if (name == QStringLiteral("SortColumnByUIID"))
+    if (name == u"SortColumnByUIID"_s)
         return {event.parameter<QString>(0)};
-    if (name == QStringLiteral("ImportRecordByPaste"))
+    if (name == u"ImportRecordByPaste"_s)
         return {event.parameter<QString>(0), event.parameter<QString>(1)};
-    if (name == QStringLiteral("ImportRecordByDrop"))
+    if (name == u"ImportRecordByDrop"_s)
         return {event.parameter<QString>(1)};
-    if (name == QStringLiteral("GetComboItems"))
+    if (name == u"GetComboItems"_s)
         return {event.parameter<QString>(0), event.parameter<qint32>(1)};
     return {};
 }
@@ -44,11 +46,11 @@ QStringList lines(std::initializer_list<const char *> texts) {
 }
 
 FakeGridSurface::FakeGridSurface()
-    : columns{{QStringLiteral("Nr"), QStringLiteral("No."), ColumnType::kText},
-              {QStringLiteral("Name"), QStringLiteral("Name"), ColumnType::kText},
-              {QStringLiteral("Kind"), QStringLiteral("Kind"), ColumnType::kCombo},
-              {QStringLiteral("Net"), QStringLiteral("Network"), ColumnType::kIdTracker}} {
-    design.ID = QStringLiteral("FreqID");
+    : columns{{u"Nr"_s, u"No."_s, ColumnType::kText},
+              {u"Name"_s, u"Name"_s, ColumnType::kText},
+              {u"Kind"_s, u"Kind"_s, ColumnType::kCombo},
+              {u"Net"_s, u"Network"_s, ColumnType::kIdTracker}} {
+    design.ID = u"FreqID"_s;
     design.Dynamic = true;
     window.resize(400, 200);
     table.setGeometry(0, 0, 400, 200);
@@ -95,22 +97,22 @@ std::optional<QString> FakeGridSurface::SourceOfName(const QString &name) const 
 void FakeGridSurface::Raise(const FieldEvent &event) {
     if (terminated)
         return;
-    log.add(QStringLiteral("raise ") + event.name(), parametersOf(event));
+    log.add(u"raise "_s + event.name(), parametersOf(event));
     if (const auto handler = on.find(event.name()); handler != on.end())
         handler->second(event);
 }
 
 void FakeGridSurface::Validate(bool &cancel) {
-    log.add(QStringLiteral("Validate"));
+    log.add(u"Validate"_s);
     cancel = refuses;
 }
 
 void FakeGridSurface::PickDropdownRow(const XArrayDB &items, qint32 row) {
-    log.add(QStringLiteral("PickDropdownRow"), {items.Value(row, 0)});
+    log.add(u"PickDropdownRow"_s, {items.Value(row, 0)});
 }
 
 void FakeGridSurface::SetBookmark(qint32 row) {
-    log.add(QStringLiteral("Bookmark"), {row});
+    log.add(u"Bookmark"_s, {row});
     if (row > display.UpperBound(1))
         return;
     bookmark = row;
@@ -118,7 +120,7 @@ void FakeGridSurface::SetBookmark(qint32 row) {
 }
 
 bool FakeGridSurface::MoveTo(const GridCell &cell) {
-    log.add(QStringLiteral("MoveTo"), {cell.row, cell.column});
+    log.add(u"MoveTo"_s, {cell.row, cell.column});
     if (refuses)
         return false;
     bookmark = cell.row;
@@ -128,12 +130,12 @@ bool FakeGridSurface::MoveTo(const GridCell &cell) {
 }
 
 void FakeGridSurface::AddSelBookmark(qint32 row) {
-    log.add(QStringLiteral("Select"), {row});
+    log.add(u"Select"_s, {row});
     selected.push_back(row);
 }
 
 void FakeGridSurface::RemoveSelBookmarks() {
-    log.add(QStringLiteral("Unselect"));
+    log.add(u"Unselect"_s);
     selected.clear();
 }
 

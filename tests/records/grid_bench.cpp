@@ -8,6 +8,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 // Nothing is kept; pasted list items may be in another language.
 ComponentPlaces placesOfTheBench() {
@@ -40,7 +42,7 @@ GridBench::GridBench(Transformer *componentDouble)
     services.process.objTransformer = componentDouble == nullptr ? &component : componentDouble;
     services.shell.mainWindow = &window;
     component.AddListener(&events);
-    component.ChangeTier(QStringLiteral("Advanced"));
+    component.ChangeTier(u"Advanced"_s);
     window.resize(800, 600);
 }
 
@@ -56,8 +58,8 @@ GridBench::~GridBench() {
 
 void GridBench::enter(QWidget &field, const QString &name, const TwipRect &place) {
     const auto *control = dynamic_cast<Ifield *>(&field);
-    const QString typeName = dynamic_cast<fldGridField *>(&field) != nullptr ? QStringLiteral("fldGridField")
-                                                                             : control->Ifield_GetTypeName();
+    const QString typeName =
+        dynamic_cast<fldGridField *>(&field) != nullptr ? u"fldGridField"_s : control->Ifield_GetTypeName();
     auto host =
         std::make_unique<FieldHost>(field, FieldHost::Place{name, typeName, nullptr, qint32(window.controls.size())});
     host->SetGeometry(place);
@@ -66,11 +68,11 @@ void GridBench::enter(QWidget &field, const QString &name, const TwipRect &place
 }
 
 fldGridField &GridBench::addGrid(const QString &fields, QVariantMap properties) {
-    properties.insert(QStringLiteral("Fields"), fields);
-    properties.insert(QStringLiteral("Dynamic"), true);
-    if (!properties.contains(QStringLiteral("ID")))
-        properties.insert(QStringLiteral("ID"), QStringLiteral("BenchGrid"));
-    auto &grid = add<fldGridField>(QStringLiteral("grid%1").arg(window.controls.size()),
+    properties.insert(u"Fields"_s, fields);
+    properties.insert(u"Dynamic"_s, true);
+    if (!properties.contains(u"ID"_s))
+        properties.insert(u"ID"_s, u"BenchGrid"_s);
+    auto &grid = add<fldGridField>(u"grid%1"_s.arg(window.controls.size()),
                                    {{100}, {100 + qint32(window.controls.size()) * 600}, {9000}, {4000}}, properties);
     return grid;
 }
@@ -95,7 +97,7 @@ void GridBench::start(fldGridField &grid) {
     events.clear();
 }
 
-TDBGrid &GridBench::table(fldGridField &grid) { return *grid.findChild<TDBGrid *>(QStringLiteral("TDBGrid1")); }
+TDBGrid &GridBench::table(fldGridField &grid) { return *grid.findChild<TDBGrid *>(u"TDBGrid1"_s); }
 
 QString GridBench::shown(fldGridField &grid, qint32 row, qint32 column) { return grid.CellValue(row, column); }
 

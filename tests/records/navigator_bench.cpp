@@ -8,15 +8,17 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
-const QString kGuide = QStringLiteral("Name");
+const QString kGuide = u"Name"_s;
 
 QVariantMap withDefaults(const QVariantMap &properties) {
-    QVariantMap all{{QStringLiteral("NavigatorStream"), 3},
-                    {QStringLiteral("GuideUIID"), kGuide},
-                    {QStringLiteral("PositionStorageUIID"), QStringLiteral("Stored")},
-                    {QStringLiteral("GridID"), QStringLiteral("Grid")},
-                    {QStringLiteral("SliderStyle"), 2}};
+    QVariantMap all{{u"NavigatorStream"_s, 3},
+                    {u"GuideUIID"_s, kGuide},
+                    {u"PositionStorageUIID"_s, u"Stored"_s},
+                    {u"GridID"_s, u"Grid"_s},
+                    {u"SliderStyle"_s, 2}};
     all.insert(properties);
     return all;
 }
@@ -27,10 +29,10 @@ void NavigatorListener::frmField_ObjectEvent(const FieldEvent &Event) {
     if (line == u"ChangePositionStorage") {
         const auto [uiid, position, accepted] = Event.unpack<QString, qint32, bool &>();
         accepted = acceptsPosition;
-        line += QStringLiteral(" %1 %2").arg(uiid).arg(position);
+        line += u" %1 %2"_s.arg(uiid).arg(position);
     } else if (line == u"ChangedPosition") {
         const auto [uiid, stream, position] = Event.unpack<QString, qint32, qint32>();
-        line += QStringLiteral(" %1 %2 %3").arg(uiid).arg(stream).arg(position);
+        line += u" %1 %2 %3"_s.arg(uiid).arg(stream).arg(position);
     } else if (line == u"ValidateForm") {
         Event.parameter<bool &>(0) = formIsValid;
     } else if (line == u"DeleteRecordNavigator") {
@@ -42,10 +44,9 @@ void NavigatorListener::frmField_ObjectEvent(const FieldEvent &Event) {
 }
 
 NavigatorBench::NavigatorBench(const QVariantMap &properties, QWidget *parent) {
-    component.when(QStringLiteral("GetValue"), QStringLiteral("Stored")).answers(1);
+    component.when(u"GetValue"_s, u"Stored"_s).answers(1);
     navigator = std::make_unique<fldPageNavigator>(
-        services.fieldServices(),
-        FieldProperties{QStringLiteral("bench.json"), QStringLiteral("navigator"), withDefaults(properties)},
+        services.fieldServices(), FieldProperties{u"bench.json"_s, u"navigator"_s, withDefaults(properties)},
         parent == nullptr ? &window : parent);
     navigator->SetHostEvents(&listener);
     navigator->SetControlSize({{9225}, {0}});
@@ -53,9 +54,9 @@ NavigatorBench::NavigatorBench(const QVariantMap &properties, QWidget *parent) {
 }
 
 void NavigatorBench::setRecords(qint32 count) {
-    component.when(QStringLiteral("GetNumberOfRecords"), kGuide).answers(count);
+    component.when(u"GetNumberOfRecords"_s, kGuide).answers(count);
     for (qint32 record = 1; record <= count; ++record)
-        component.when(QStringLiteral("GetValue"), kGuide, record).answers(QStringLiteral("Alpha%1").arg(record));
+        component.when(u"GetValue"_s, kGuide, record).answers(u"Alpha%1"_s.arg(record));
     navigator->Inavigator_NumberRecords(count);
 }
 

@@ -3,6 +3,7 @@
 #include "fld_text_field.h"
 #include "grid_bench.h"
 #include "recording_transformer.h"
+#include "rows.h"
 #include "tdb_grid.h"
 #include "window_input.h"
 
@@ -71,19 +72,7 @@ class Recorded {
         WindowInput::click(*navigator.findChild<QPushButton *>(QString::fromLatin1(button)));
     }
 };
-} // namespace
 
-// What the component is asked, in order, by the record operations and by a move of a real grid and its navigator.
-class tst_record_calls final : public QObject {
-    Q_OBJECT
-  private Q_SLOTS:
-    void operationsAskInOrder_data();
-    void operationsAskInOrder();
-    void aMoveThatReEntersAsksOnce();
-    void aCommandInsideACommandIsNotServed();
-};
-
-namespace {
 using Action = void (*)(Recorded &);
 
 // The number of records that the double tells stays 3, so a new row leads to the last of these. A move from the stored
@@ -94,89 +83,88 @@ QStringList move(int position) {
             u"GetFieldEnabled(Other, %1)"_s.arg(position)};
 }
 } // namespace
-Q_DECLARE_METATYPE(Action)
 
-void tst_record_calls::operationsAskInOrder_data() {
-    QTest::addColumn<Action>("action");
-    QTest::addColumn<QStringList>("lines");
-    const QString valid = u"ValidateForm(usrctlTest, Test, false)"_s;
-    const QString stored = u"GetValue(Stored, 1)"_s;
-    const QString begin = u"BeginBatchUpdate()"_s;
-    const QString end = u"EndBatchUpdate()"_s;
-    const auto add = [](const char *name, Action action, const QStringList &lines) {
-        QTest::newRow(name) << action << lines;
-    };
-    add(
-        "navigator", [](Recorded &form) { form.press("cmdForward"); }, move(3));
-    add(
-        "row",
-        [](Recorded &form) {
-            form.table().MoveTo({2, 0});
-        },
-        move(3));
-    add(
-        "add", [](Recorded &form) { form.press("cmdAdd"); },
-        QStringList{valid, u"AddRecord(Name, BenchGrid, 0)"_s, u"GetGridData(Name|Kind, true, 4)"_s} + move(3) +
-            QStringList(stored) + move(3));
-    add("insert", [](Recorded &form) { form.press("cmdInsert"); },
-        {valid, u"InsertRecord(Name, 2, BenchGrid)"_s, u"GetGridData(Name|Kind, true, 2)"_s, stored});
-    add(
-        "repeat", [](Recorded &form) { form.press("cmdRepeat"); },
-        QStringList{valid, u"RepeatRecord(Name, 2, BenchGrid)"_s, u"GetGridData(Name|Kind, true, 3)"_s, stored} +
-            move(3));
-    add("delete", [](Recorded &form) { form.press("cmdDelete"); },
-        {begin, u"DeleteRecord(Name, 2)"_s, u"GetRecordDeletedRefreshNeeded()"_s, stored, end});
-    add("sort", [](Recorded &form) { Q_EMIT form.table().horizontalHeader()->sectionClicked(0); },
-        {u"SortColumn(Name, true)"_s, u"GetGridData(Name|Kind, true, 0)"_s, stored, valid,
-         u"SetValue(Stored, 1, 1, true)"_s, u"GetValue(Other, 1)"_s, u"GetFieldEnabled(Other, 1)"_s,
-         u"SetDataChanged()"_s});
-    add(
-        "paste",
-        [](Recorded &form) {
-            form.bench.services.clipboard.SetText(u"1\t2\r\n"_s);
-            form.grid.Ifield_Paste();
-        },
-        QStringList{begin, u"SetProviderUpdateUIOnFieldChange(false)"_s,
-                    u"ImportRecordByPaste(BenchGrid, Name|Kind, true, , )"_s, u"GetGridData(Name|Kind, true, 0)"_s} +
-            move(1) + QStringList{stored, u"SetProviderUpdateUIOnFieldChange(true)"_s, end});
-}
+// What the component is asked, in order, by the record operations and by a move of a real grid and its navigator.
+class tst_record_calls final : public QObject {
+    Q_OBJECT
+  private Q_SLOTS:
+    void operationsAskInOrder() {
+        const QString valid = u"ValidateForm(usrctlTest, Test, false)"_s;
+        const QString stored = u"GetValue(Stored, 1)"_s;
+        const QString begin = u"BeginBatchUpdate()"_s;
+        const QString end = u"EndBatchUpdate()"_s;
 
-void tst_record_calls::operationsAskInOrder() {
-    QFETCH(Action, action);
-    Recorded form;
-    action(form);
-    QTEST(form.decisions(), "lines");
-}
+        for (const auto &[action, lines] : Rows<Action, QStringList>{
+                 {"navigator", [](Recorded &form) { form.press("cmdForward"); }, move(3)},
+                 {"row",
+                  [](Recorded &form) {
+                      form.table().MoveTo({2, 0});
+                  },
+                  move(3)},
+                 {"add", [](Recorded &form) { form.press("cmdAdd"); },
+                  QStringList{valid, u"AddRecord(Name, BenchGrid, 0)"_s, u"GetGridData(Name|Kind, true, 4)"_s} +
+                      move(3) + QStringList(stored) + move(3)},
+                 {"insert",
+                  [](Recorded &form) { form.press("cmdInsert"); },
+                  {valid, u"InsertRecord(Name, 2, BenchGrid)"_s, u"GetGridData(Name|Kind, true, 2)"_s, stored}},
+                 {"repeat", [](Recorded &form) { form.press("cmdRepeat"); },
+                  QStringList{valid, u"RepeatRecord(Name, 2, BenchGrid)"_s, u"GetGridData(Name|Kind, true, 3)"_s,
+                              stored} +
+                      move(3)},
+                 {"delete",
+                  [](Recorded &form) { form.press("cmdDelete"); },
+                  {begin, u"DeleteRecord(Name, 2)"_s, u"GetRecordDeletedRefreshNeeded()"_s, stored, end}},
+                 {"sort",
+                  [](Recorded &form) { Q_EMIT form.table().horizontalHeader()->sectionClicked(0); },
+                  {u"SortColumn(Name, true)"_s, u"GetGridData(Name|Kind, true, 0)"_s, stored, valid,
+                   u"SetValue(Stored, 1, 1, true)"_s, u"GetValue(Other, 1)"_s, u"GetFieldEnabled(Other, 1)"_s,
+                   u"SetDataChanged()"_s}},
+                 {"paste",
+                  [](Recorded &form) {
+                      form.bench.services.clipboard.SetText(u"1\t2\r\n"_s);
+                      form.grid.Ifield_Paste();
+                  },
+                  QStringList{begin, u"SetProviderUpdateUIOnFieldChange(false)"_s,
+                              u"ImportRecordByPaste(BenchGrid, Name|Kind, true, , )"_s,
+                              u"GetGridData(Name|Kind, true, 0)"_s} +
+                      move(1) + QStringList{stored, u"SetProviderUpdateUIOnFieldChange(true)"_s, end}},
+             }) {
+            Recorded form;
+            action(form);
+            QCOMPARE(form.decisions(), lines);
+        }
+    }
 
-// The component answers the new position with a refill and the position itself, as a real one does.
-void tst_record_calls::aMoveThatReEntersAsksOnce() {
-    Recorded form;
-    form.component.when(u"GetGridData"_s).answers(kRows);
-    form.component.when(u"SetValue"_s, u"Stored"_s).runs([&] {
-        form.bench.events.enabler->Ienabler_RefreshGridByUIID(u"Name"_s);
-        form.bench.events.enabler->Ienabler_UpdateUIFieldByUIID(u"Stored"_s, 1, 3);
-    });
-    form.press("cmdForward");
-    QStringList lines = move(3);
-    lines.insert(3, u"GetGridData(Name|Kind, true, 0)"_s);
-    QCOMPARE(form.decisions(), lines);
-    QCOMPARE(form.navigator.Inavigator_Position(), 3);
-    QCOMPARE(form.grid.CurrentRow(), 2);
-}
+    // The component answers the new position with a refill and the position itself, as a real one does.
+    void aMoveThatReEntersAsksOnce() {
+        Recorded form;
+        form.component.when(u"GetGridData"_s).answers(kRows);
+        form.component.when(u"SetValue"_s, u"Stored"_s).runs([&] {
+            form.bench.events.enabler->Ienabler_RefreshGridByUIID(u"Name"_s);
+            form.bench.events.enabler->Ienabler_UpdateUIFieldByUIID(u"Stored"_s, 1, 3);
+        });
+        form.press("cmdForward");
+        QStringList lines = move(3);
+        lines.insert(3, u"GetGridData(Name|Kind, true, 0)"_s);
+        QCOMPARE(form.decisions(), lines);
+        QCOMPARE(form.navigator.Inavigator_Position(), 3);
+        QCOMPARE(form.grid.CurrentRow(), 2);
+    }
 
-void tst_record_calls::aCommandInsideACommandIsNotServed() {
-    Recorded form;
-    form.component.when(u"AddRecord"_s).runs([&] {
-        form.press("cmdInsert");
-        form.grid.Add();
-        form.grid.Delete();
-    });
-    form.press("cmdAdd");
-    const QStringList lines = form.decisions();
-    QCOMPARE(lines.filter(u"AddRecord"_s).size(), 1);
-    QCOMPARE(lines.filter(u"InsertRecord"_s) + lines.filter(u"DeleteRecord("_s), QStringList());
-    QCOMPARE(form.table().ApproxCount(), 4);
-}
+    void aCommandInsideACommandIsNotServed() {
+        Recorded form;
+        form.component.when(u"AddRecord"_s).runs([&] {
+            form.press("cmdInsert");
+            form.grid.Add();
+            form.grid.Delete();
+        });
+        form.press("cmdAdd");
+        const QStringList lines = form.decisions();
+        QCOMPARE(lines.filter(u"AddRecord"_s).size(), 1);
+        QCOMPARE(lines.filter(u"InsertRecord"_s) + lines.filter(u"DeleteRecord("_s), QStringList());
+        QCOMPARE(form.table().ApproxCount(), 4);
+    }
+};
 
 QTEST_MAIN(tst_record_calls)
 #include "tst_record_calls.moc"

@@ -1,6 +1,7 @@
 #include "common_error_handler.h"
 #include "message_style.h"
 #include "product_identity.h"
+#include "rows.h"
 #include "test_services.h"
 #include "translated_message_boxes.h"
 
@@ -10,7 +11,10 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <functional>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 // What stood on the screen.
@@ -21,7 +25,6 @@ struct Seen {
     QMessageBox::Icon icon = QMessageBox::NoIcon;
     Qt::TextFormat format = Qt::AutoText;
     QWidget *parent = nullptr;
-    QString defaultButton;
     bool arrow = false;
 };
 
@@ -39,8 +42,7 @@ class BoxProbe {
         auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
         if (box == nullptr)
             qFatal("no box");
-        mSeen = {box->text(),         box->windowTitle(),           {},   box->icon(), box->textFormat(),
-                 box->parentWidget(), box->defaultButton()->text(), false};
+        mSeen = {box->text(), box->windowTitle(), {}, box->icon(), box->textFormat(), box->parentWidget(), false};
         for (const QAbstractButton *button : box->buttons())
             mSeen.buttons << button->text();
         mSeen.buttons.sort();
@@ -71,136 +73,93 @@ std::function<void(QMessageBox &)> escapeThen(const QString &text) {
 class tst_message_boxes final : public QObject {
     Q_OBJECT
   private Q_SLOTS:
-    void escAnswersWhatChangesLeast_data();
-    void escAnswersWhatChangesLeast();
-    void enterPressesTheFirstButton();
-    void abortRetryIgnoreCannotBeClosed();
-    void shortPromptIsPaddedTo50_data();
-    void shortPromptIsPaddedTo50();
-    void markupInAValueIsShownAsItStands();
-    void everyTextOfTheTranslatedBoxIsTranslated();
-    void plainBoxIsLeftAsItIs();
-    void boxStandsOverTheActiveWindow();
-    void pointerIsTheArrowUnderAnHourglass();
+    void keysAnswerWhatTheyShould() {
+        using Act = std::function<void(QMessageBox &)>;
+        for (const auto &[style, act, answer] : Rows<int, Act, int>{
+                 {"Esc: OK alone", MessageStyle::kOkOnly, pressEscape, MessageAnswer::kOk},
+                 {"Esc: OK, cancel", MessageStyle::kOkCancel, pressEscape, MessageAnswer::kCancel},
+                 {"Esc: yes, no", MessageStyle::kYesNo, pressEscape, MessageAnswer::kNo},
+                 {"Esc: yes, no, cancel", MessageStyle::kYesNoCancel, pressEscape, MessageAnswer::kCancel},
+                 {"Esc: yes alone", 6, pressEscape, MessageAnswer::kYes},
+                 {"Enter presses the first", MessageStyle::kYesNoCancel, pressEnter, MessageAnswer::kYes},
+                 {"not to be closed", MessageStyle::kAbortRetryIgnore, escapeThen(u"&Retry"_s), MessageAnswer::kRetry},
+             }) {
+            TestServices services(nullptr);
+            TranslatedMessageBoxes boxes(services.translation, services.errors);
+            int answered = -1;
+            BoxProbe().watch([&boxes, &answered, buttons = style] { answered = boxes.MsgBox(u"?"_s, buttons, {}); },
+                             act);
+            QCOMPARE(answered, answer);
+        }
+    }
+
+    void shortPromptIsPaddedTo50() {
+        for (const int length : {49, 50, 51}) {
+            TestServices services(nullptr);
+            TranslatedMessageBoxes boxes(services.translation, services.errors);
+            const Seen seen =
+                BoxProbe().watch([&] { boxes.TranslateMsgBox(QString(length, u'x'), 0, {}, {}); }, pressEscape);
+            QCOMPARE(int(seen.text.size()), std::max(length, 50));
+            QCOMPARE(seen.title, ProductIdentity::title());
+        }
+    }
+
+    void markupInAValueIsShownAsItStands() {
+        TestServices services(nullptr);
+        TranslatedMessageBoxes boxes(services.translation, services.errors);
+        const Seen seen = BoxProbe().watch(
+            [&] {
+                boxes.TranslateMsgBox(u"%0:S\r\nstands on the second of the two lines of it"_s, 0, {}, u"<b>x</b>"_s);
+            },
+            pressEscape);
+        QCOMPARE(seen.format, Qt::PlainText);
+        QCOMPARE(seen.text.trimmed(), u"<b>x</b>\nstands on the second of the two lines of it"_s);
+    }
+
+    void everyTextOfTheTranslatedBoxIsTranslated() {
+        TestServices services(nullptr);
+        services.translate(
+            {u"Save %0:S?|Enregistrer %0:S ?"_s, u"Tier|Niveau"_s, u"Error|Erreur"_s, u"&Yes|&Oui"_s, u"&No|&Non"_s});
+        TranslatedMessageBoxes boxes(services.translation, services.errors);
+        const Seen seen = BoxProbe().watch(
+            [&] {
+                boxes.TranslateMsgBox(u"Save %0:S?"_s, MessageStyle::kYesNo | MessageStyle::kExclamation, u"Error"_s,
+                                      u"Tier"_s);
+            },
+            pressEscape);
+        QCOMPARE(seen.text.trimmed(), u"Enregistrer Niveau ?"_s);
+        QCOMPARE(seen.title, u"Erreur"_s);
+        QCOMPARE(seen.buttons, (QStringList{u"&Non"_s, u"&Oui"_s}));
+        QCOMPARE(seen.icon, QMessageBox::Warning);
+        const Seen plain =
+            BoxProbe().watch([&] { boxes.MsgBox(u"Tier"_s, MessageStyle::kCritical, u"Error"_s); }, pressEscape);
+        QCOMPARE(plain.text, u"Tier"_s); // a plain one is left as it is
+        QCOMPARE(plain.title, u"Error"_s);
+        QCOMPARE(plain.icon, QMessageBox::Critical);
+    }
+
+    void boxStandsOverTheActiveWindow() {
+        TestServices services(nullptr);
+        TranslatedMessageBoxes boxes(services.translation, services.errors);
+        QWidget window;
+        window.show();
+        QApplication::setActiveWindow(&window);
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        const Seen seen = BoxProbe().watch([&] { boxes.MsgBox(u"?"_s, 0, {}); }, pressEscape);
+        QCOMPARE(seen.parent, &window);
+    }
+
+    void pointerIsTheArrowUnderAnHourglass() {
+        TestServices services(nullptr);
+        TranslatedMessageBoxes boxes(services.translation, services.errors);
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        const Seen seen = BoxProbe().watch([&] { boxes.MsgBox(u"?"_s, 0, {}); }, pressEscape);
+        QVERIFY(seen.arrow);
+        QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        QApplication::restoreOverrideCursor();
+        QVERIFY(QApplication::overrideCursor() == nullptr);
+    }
 };
-
-void tst_message_boxes::escAnswersWhatChangesLeast_data() {
-    QTest::addColumn<int>("buttons");
-    QTest::addColumn<int>("answer");
-    QTest::newRow("OK alone") << MessageStyle::kOkOnly << MessageAnswer::kOk;
-    QTest::newRow("OK, cancel") << MessageStyle::kOkCancel << MessageAnswer::kCancel;
-    QTest::newRow("yes, no") << MessageStyle::kYesNo << MessageAnswer::kNo;
-    QTest::newRow("yes, no, cancel") << MessageStyle::kYesNoCancel << MessageAnswer::kCancel;
-    QTest::newRow("yes alone") << 6 << MessageAnswer::kYes;
-}
-
-void tst_message_boxes::escAnswersWhatChangesLeast() {
-    QFETCH(int, buttons);
-    TestServices services(nullptr);
-    TranslatedMessageBoxes boxes(services.translation, services.errors);
-    int answer = -1;
-    BoxProbe().watch([&] { answer = boxes.TranslateMsgBox(QStringLiteral("?"), buttons, {}, {}); }, pressEscape);
-    QTEST(answer, "answer");
-}
-
-void tst_message_boxes::enterPressesTheFirstButton() {
-    TestServices services(nullptr);
-    TranslatedMessageBoxes boxes(services.translation, services.errors);
-    int answer = -1;
-    const Seen seen = BoxProbe().watch(
-        [&] { answer = boxes.MsgBox(QStringLiteral("?"), MessageStyle::kYesNoCancel, {}); }, pressEnter);
-    QCOMPARE(answer, MessageAnswer::kYes);
-    QCOMPARE(seen.defaultButton, QStringLiteral("&Yes"));
-}
-
-void tst_message_boxes::abortRetryIgnoreCannotBeClosed() {
-    TestServices services(nullptr);
-    TranslatedMessageBoxes boxes(services.translation, services.errors);
-    int answer = -1;
-    BoxProbe().watch([&] { answer = boxes.MsgBox(QStringLiteral("?"), MessageStyle::kAbortRetryIgnore, {}); },
-                     escapeThen(QStringLiteral("&Retry")));
-    QCOMPARE(answer, MessageAnswer::kRetry);
-}
-
-void tst_message_boxes::shortPromptIsPaddedTo50_data() {
-    QTest::addColumn<int>("length");
-    QTest::addColumn<int>("shown");
-    QTest::newRow("49 characters") << 49 << 50;
-    QTest::newRow("50 characters") << 50 << 50;
-    QTest::newRow("51 characters") << 51 << 51;
-}
-
-void tst_message_boxes::shortPromptIsPaddedTo50() {
-    QFETCH(int, length);
-    TestServices services(nullptr);
-    TranslatedMessageBoxes boxes(services.translation, services.errors);
-    const Seen seen = BoxProbe().watch([&] { boxes.TranslateMsgBox(QString(length, u'x'), 0, {}, {}); }, pressEscape);
-    QTEST(int(seen.text.size()), "shown");
-    QCOMPARE(seen.title, ProductIdentity::title());
-}
-
-void tst_message_boxes::markupInAValueIsShownAsItStands() {
-    TestServices services(nullptr);
-    TranslatedMessageBoxes boxes(services.translation, services.errors);
-    const Seen seen = BoxProbe().watch(
-        [&] {
-            boxes.TranslateMsgBox(QStringLiteral("%0:S\r\nstands on the second of the two lines of it"), 0, {},
-                                  QStringLiteral("<b>x</b>"));
-        },
-        pressEscape);
-    QCOMPARE(seen.format, Qt::PlainText);
-    QCOMPARE(seen.text.trimmed(), QStringLiteral("<b>x</b>\nstands on the second of the two lines of it"));
-}
-
-void tst_message_boxes::everyTextOfTheTranslatedBoxIsTranslated() {
-    TestServices services(nullptr);
-    services.translate({QStringLiteral("Save %0:S?|Enregistrer %0:S ?"), QStringLiteral("Tier|Niveau"),
-                        QStringLiteral("Error|Erreur"), QStringLiteral("&Yes|&Oui"), QStringLiteral("&No|&Non")});
-    TranslatedMessageBoxes boxes(services.translation, services.errors);
-    const Seen seen = BoxProbe().watch(
-        [&] {
-            boxes.TranslateMsgBox(QStringLiteral("Save %0:S?"), MessageStyle::kYesNo | MessageStyle::kExclamation,
-                                  QStringLiteral("Error"), QStringLiteral("Tier"));
-        },
-        pressEscape);
-    QCOMPARE(seen.text.trimmed(), QStringLiteral("Enregistrer Niveau ?"));
-    QCOMPARE(seen.title, QStringLiteral("Erreur"));
-    QCOMPARE(seen.buttons, (QStringList{QStringLiteral("&Non"), QStringLiteral("&Oui")}));
-    QCOMPARE(seen.icon, QMessageBox::Warning);
-}
-
-void tst_message_boxes::plainBoxIsLeftAsItIs() {
-    TestServices services(nullptr);
-    services.translate({QStringLiteral("Short|Court"), QStringLiteral("Error|Erreur")});
-    TranslatedMessageBoxes boxes(services.translation, services.errors);
-    const Seen seen = BoxProbe().watch(
-        [&] { boxes.MsgBox(QStringLiteral("Short"), MessageStyle::kCritical, QStringLiteral("Error")); }, pressEscape);
-    QCOMPARE(seen.text, QStringLiteral("Short"));
-    QCOMPARE(seen.title, QStringLiteral("Error"));
-    QCOMPARE(seen.icon, QMessageBox::Critical);
-}
-
-void tst_message_boxes::boxStandsOverTheActiveWindow() {
-    TestServices services(nullptr);
-    TranslatedMessageBoxes boxes(services.translation, services.errors);
-    QWidget window;
-    window.show();
-    QApplication::setActiveWindow(&window);
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    const Seen seen = BoxProbe().watch([&] { boxes.MsgBox(QStringLiteral("?"), 0, {}); }, pressEscape);
-    QCOMPARE(seen.parent, &window);
-}
-
-void tst_message_boxes::pointerIsTheArrowUnderAnHourglass() {
-    TestServices services(nullptr);
-    TranslatedMessageBoxes boxes(services.translation, services.errors);
-    QApplication::setOverrideCursor(Qt::WaitCursor);
-    const Seen seen = BoxProbe().watch([&] { boxes.MsgBox(QStringLiteral("?"), 0, {}); }, pressEscape);
-    QVERIFY(seen.arrow);
-    QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    QApplication::restoreOverrideCursor();
-    QVERIFY(QApplication::overrideCursor() == nullptr);
-}
 
 QTEST_MAIN(tst_message_boxes)
 #include "tst_message_boxes.moc"

@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 constexpr int kPatience = 20000; // milliseconds; only a stuck program takes so long
 constexpr int kHeaderSize = 32;
@@ -12,11 +14,11 @@ constexpr int kActiveAt = 16;
 SimProcess::~SimProcess() { kill(); }
 
 bool SimProcess::start(const QStringList &options) {
-    return startPlain(QStringList{QStringLiteral("--link"), link(), QStringLiteral("--full-speed")} + options);
+    return startPlain(QStringList{u"--link"_s, link(), u"--full-speed"_s} + options);
 }
 
 bool SimProcess::startPlain(const QStringList &arguments) {
-    mProcess.start(qEnvironmentVariable("KX4600_BIN") + QStringLiteral("/kx4600sim"), arguments);
+    mProcess.start(qEnvironmentVariable("KX4600_BIN") + u"/kx4600sim"_s, arguments);
     while (mProcess.state() != QProcess::NotRunning) {
         if (mProcess.canReadLine())
             return mProcess.readLine().startsWith("ready ");
@@ -49,7 +51,7 @@ QByteArray SimProcess::activeBank() const {
 }
 
 int SimProcess::count(const QString &what) {
-    const QRegularExpression shape(what + QStringLiteral("=([0-9]+)"));
+    const QRegularExpression shape(what + u"=([0-9]+)"_s);
     const QRegularExpressionMatch match = shape.match(QString::fromLatin1(mOutput));
     return match.hasMatch() ? match.captured(1).toInt() : -1;
 }

@@ -1,6 +1,7 @@
 #include "checksums.h"
 #include "line_model.h"
 #include "radio_memory.h"
+#include "rows.h"
 #include "sample_identity.h"
 #include "simulated_radio.h"
 #include "wire_timing.h"
@@ -50,184 +51,159 @@ class SimulatedRadioTest : public QObject {
     Q_OBJECT
 
   private Q_SLOTS:
-    void wrongRequestsAreRefusedByCode_data();
-    void wrongRequestsAreRefusedByCode();
-    void sessionCommandsNeedASession_data();
-    void sessionCommandsNeedASession();
-    void repeatedCommitDoesNotSwitchBack();
-    void commitOfAnotherContentChangesNothing_data();
-    void commitOfAnotherContentChangesNothing();
-    void speedChangesBehindTheAnswerAndFallsBackWithoutAFrame();
-    void silentSessionEndsAtTheStartSpeed();
-    void damagedRequestIsAskedForAgain();
-    void newRequestReplacesTheAnswerUnderWay();
-    void lineKeepsItsPaceAndOrder();
-    void faultsTakeEffectAtTheirRate();
-};
+    void wrongRequestsAreRefusedByCode() {
+        const auto read = [](quint32 offset, quint16 length) {
+            return ReadBlockRequest{Bank::Active, offset, length}.encode();
+        };
+        const auto write = [](quint32 offset, int length) { return Block{offset, QByteArray(length, 'n')}.encode(); };
+        const int range = int(ErrorCode::OutOfRange);
 
-void SimulatedRadioTest::wrongRequestsAreRefusedByCode_data() {
-    QTest::addColumn<Command>("command");
-    QTest::addColumn<QByteArray>("payload");
-    QTest::addColumn<int>("code");
-    const auto read = [](quint32 offset, quint16 length) {
-        return ReadBlockRequest{Bank::Active, offset, length}.encode();
-    };
-    const auto write = [](quint32 offset, int length) { return Block{offset, QByteArray(length, 'n')}.encode(); };
-    const int range = int(ErrorCode::OutOfRange);
-    QTest::newRow("unknown command") << Command(0x55) << QByteArray() << int(ErrorCode::UnknownCommand);
-    QTest::newRow("identify with payload") << Command::Identify << QByteArray("x") << int(ErrorCode::BadPayload);
-    QTest::newRow("other protocol") << Command::OpenSession << QByteArray("\x02") << int(ErrorCode::WrongProtocol);
-    QTest::newRow("speed nobody has") << Command::SetSpeed << LineSpeed{57600}.encode() << int(ErrorCode::SpeedRefused);
-    QTest::newRow("last byte") << Command::ReadBlock << read(999, 1) << 0;
-    QTest::newRow("one behind the end") << Command::ReadBlock << read(999, 2) << range;
-    QTest::newRow("offset that wraps") << Command::ReadBlock << read(0xFFFFFFFF, 16) << range;
-    QTest::newRow("empty read") << Command::ReadBlock << read(0, 0) << range;
-    QTest::newRow("greatest block") << Command::ReadBlock << read(0, 256) << 0;
-    QTest::newRow("longer than its block") << Command::ReadBlock << read(0, 257) << range;
-    QTest::newRow("write up to the end") << Command::WriteBlock << write(900, 100) << 0;
-    QTest::newRow("write over the end") << Command::WriteBlock << write(900, 101) << range;
-    QTest::newRow("write with an offset that wraps") << Command::WriteBlock << write(0xFFFFFFF0, 100) << range;
-    QTest::newRow("write of nothing") << Command::WriteBlock << write(0, 0) << int(ErrorCode::BadPayload);
-}
-
-void SimulatedRadioTest::wrongRequestsAreRefusedByCode() {
-    QFETCH(Command, command);
-    QFETCH(QByteArray, payload);
-    Bench bench;
-    bench.open();
-    QTEST(bench.refusalOf(command, payload), "code");
-    QCOMPARE(bench.memory.active(), QByteArray(1000, 'o'));
-}
-
-void SimulatedRadioTest::sessionCommandsNeedASession_data() {
-    QTest::addColumn<Command>("command");
-    QTest::addColumn<QByteArray>("payload");
-    QTest::newRow("speed") << Command::SetSpeed << LineSpeed{115200}.encode();
-    QTest::newRow("read") << Command::ReadBlock << ReadBlockRequest{Bank::Active, 0, 10}.encode();
-    QTest::newRow("write") << Command::WriteBlock << Block{0, "x"}.encode();
-    QTest::newRow("checksum") << Command::BankChecksum << BankRequest{}.encode();
-    QTest::newRow("commit") << Command::Commit << CommitContent{1, 0}.encode();
-}
-
-void SimulatedRadioTest::sessionCommandsNeedASession() {
-    QFETCH(Command, command);
-    QFETCH(QByteArray, payload);
-    Bench bench;
-    QCOMPARE(bench.refusalOf(command, payload), int(ErrorCode::NoSession));
-    bench.open();
-    QVERIFY(bench.refusalOf(command, payload) != int(ErrorCode::NoSession));
-    bench.ask(Command::CloseSession);
-    QCOMPARE(bench.refusalOf(command, payload), int(ErrorCode::NoSession));
-}
-
-void SimulatedRadioTest::repeatedCommitDoesNotSwitchBack() {
-    Bench bench;
-    bench.open();
-    const QByteArray content(1000, 'n');
-    bench.write(content);
-    const QByteArray commit = CommitContent{1, Checksums::crc32(content)}.encode();
-    for (int repeated = 0; repeated < 3; ++repeated) {
-        QCOMPARE(bench.refusalOf(Command::Commit, commit), 0);
-        QCOMPARE(bench.memory.active(), content);
+        for (const auto &[command, payload, code] : Rows<Command, QByteArray, int>{
+                 {"unknown command", Command(0x55), QByteArray(), int(ErrorCode::UnknownCommand)},
+                 {"identify with payload", Command::Identify, QByteArray("x"), int(ErrorCode::BadPayload)},
+                 {"other protocol", Command::OpenSession, QByteArray("\x02"), int(ErrorCode::WrongProtocol)},
+                 {"speed nobody has", Command::SetSpeed, LineSpeed{57600}.encode(), int(ErrorCode::SpeedRefused)},
+                 {"last byte", Command::ReadBlock, read(999, 1), 0},
+                 {"one behind the end", Command::ReadBlock, read(999, 2), range},
+                 {"offset that wraps", Command::ReadBlock, read(0xFFFFFFFF, 16), range},
+                 {"empty read", Command::ReadBlock, read(0, 0), range},
+                 {"greatest block", Command::ReadBlock, read(0, 256), 0},
+                 {"longer than its block", Command::ReadBlock, read(0, 257), range},
+                 {"write up to the end", Command::WriteBlock, write(900, 100), 0},
+                 {"write over the end", Command::WriteBlock, write(900, 101), range},
+                 {"write with an offset that wraps", Command::WriteBlock, write(0xFFFFFFF0, 100), range},
+                 {"write of nothing", Command::WriteBlock, write(0, 0), int(ErrorCode::BadPayload)},
+             }) {
+            Bench bench;
+            bench.open();
+            QCOMPARE(bench.refusalOf(command, payload), code);
+            QCOMPARE(bench.memory.active(), QByteArray(1000, 'o'));
+        }
     }
-    QCOMPARE(bench.memory.second(), QByteArray(1000, 'o'));
-}
 
-void SimulatedRadioTest::commitOfAnotherContentChangesNothing_data() {
-    QTest::addColumn<quint16>("layout");
-    QTest::addColumn<bool>("rightChecksum");
-    QTest::newRow("wrong checksum") << quint16(1) << false;
-    QTest::newRow("wrong memory map") << quint16(2) << true;
-}
+    void sessionCommandsNeedASession() {
+        for (const auto &[command, payload] : Rows<Command, QByteArray>{
+                 {"speed", Command::SetSpeed, LineSpeed{115200}.encode()},
+                 {"read", Command::ReadBlock, ReadBlockRequest{Bank::Active, 0, 10}.encode()},
+                 {"write", Command::WriteBlock, Block{0, "x"}.encode()},
+                 {"checksum", Command::BankChecksum, BankRequest{}.encode()},
+                 {"commit", Command::Commit, CommitContent{1, 0}.encode()},
+             }) {
+            Bench bench;
+            QCOMPARE(bench.refusalOf(command, payload), int(ErrorCode::NoSession));
+            bench.open();
+            QVERIFY(bench.refusalOf(command, payload) != int(ErrorCode::NoSession));
+            bench.ask(Command::CloseSession);
+            QCOMPARE(bench.refusalOf(command, payload), int(ErrorCode::NoSession));
+        }
+    }
 
-void SimulatedRadioTest::commitOfAnotherContentChangesNothing() {
-    QFETCH(quint16, layout);
-    QFETCH(bool, rightChecksum);
-    Bench bench;
-    bench.open();
-    const QByteArray content(1000, 'n');
-    bench.write(content);
-    const quint32 crc = Checksums::crc32(content) + (rightChecksum ? 0 : 1);
-    QCOMPARE(bench.refusalOf(Command::Commit, CommitContent{layout, crc}.encode()), int(ErrorCode::ChecksumDiffers));
-    QCOMPARE(bench.memory.active(), QByteArray(1000, 'o'));
-}
+    void repeatedCommitDoesNotSwitchBack() {
+        Bench bench;
+        bench.open();
+        const QByteArray content(1000, 'n');
+        bench.write(content);
+        const QByteArray commit = CommitContent{1, Checksums::crc32(content)}.encode();
+        for (int repeated = 0; repeated < 3; ++repeated) {
+            QCOMPARE(bench.refusalOf(Command::Commit, commit), 0);
+            QCOMPARE(bench.memory.active(), content);
+        }
+        QCOMPARE(bench.memory.second(), QByteArray(1000, 'o'));
+    }
 
-void SimulatedRadioTest::speedChangesBehindTheAnswerAndFallsBackWithoutAFrame() {
-    Bench bench;
-    bench.open();
-    QCOMPARE(bench.refusalOf(Command::SetSpeed, LineSpeed{115200}.encode()), 0);
-    QCOMPARE(bench.radio.speed(), 19200);
-    bench.radio.answerSent(bench.now);
-    QCOMPARE(bench.radio.speed(), 115200);
-    bench.now += WireTiming::kSpeedTrial - 1ms;
-    (void)bench.radio.elapse(bench.now);
-    QCOMPARE(bench.radio.speed(), 115200);
-    bench.now += 1ms;
-    (void)bench.radio.elapse(bench.now);
-    QCOMPARE(bench.radio.speed(), 19200);
-    QVERIFY(!bench.radio.inSession());
-}
+    void commitOfAnotherContentChangesNothing() {
+        for (const auto &[layout, rightChecksum] : Rows<quint16, bool>{
+                 {"wrong checksum", quint16(1), false},
+                 {"wrong memory map", quint16(2), true},
+             }) {
+            Bench bench;
+            bench.open();
+            const QByteArray content(1000, 'n');
+            bench.write(content);
+            const quint32 crc = Checksums::crc32(content) + (rightChecksum ? 0 : 1);
+            QCOMPARE(bench.refusalOf(Command::Commit, CommitContent{layout, crc}.encode()),
+                     int(ErrorCode::ChecksumDiffers));
+            QCOMPARE(bench.memory.active(), QByteArray(1000, 'o'));
+        }
+    }
 
-void SimulatedRadioTest::silentSessionEndsAtTheStartSpeed() {
-    Bench bench;
-    bench.open();
-    bench.ask(Command::SetSpeed, LineSpeed{115200}.encode());
-    bench.radio.answerSent(bench.now);
-    bench.ask(Command::Identify);
-    bench.now += WireTiming::kSessionSilence - 1ms;
-    (void)bench.radio.elapse(bench.now);
-    QVERIFY2(bench.radio.inSession(), "a frame at the new speed ends its trial");
-    bench.ask(Command::Identify);
-    bench.now += WireTiming::kSessionSilence;
-    (void)bench.radio.elapse(bench.now);
-    QVERIFY(!bench.radio.inSession());
-    QCOMPARE(bench.radio.speed(), 19200);
-}
+    void speedChangesBehindTheAnswerAndFallsBackWithoutAFrame() {
+        Bench bench;
+        bench.open();
+        QCOMPARE(bench.refusalOf(Command::SetSpeed, LineSpeed{115200}.encode()), 0);
+        QCOMPARE(bench.radio.speed(), 19200);
+        bench.radio.answerSent(bench.now);
+        QCOMPARE(bench.radio.speed(), 115200);
+        bench.now += WireTiming::kSpeedTrial - 1ms;
+        (void)bench.radio.elapse(bench.now);
+        QCOMPARE(bench.radio.speed(), 115200);
+        bench.now += 1ms;
+        (void)bench.radio.elapse(bench.now);
+        QCOMPARE(bench.radio.speed(), 19200);
+        QVERIFY(!bench.radio.inSession());
+    }
 
-void SimulatedRadioTest::damagedRequestIsAskedForAgain() {
-    Bench bench;
-    QByteArray damaged = encode({77, request(Command::Identify), {}});
-    damaged[6] = char(damaged[6] ^ 1);
-    FrameDecoder decoder;
-    decoder.feed(bench.radio.receive(damaged, bench.now));
-    const auto frame = decoder.next();
-    QVERIFY(frame);
-    QCOMPARE(frame->sequence, quint8(77));
-    QCOMPARE(Refusal::decode(frame->payload)->code, ErrorCode::FrameCheck);
-}
+    void silentSessionEndsAtTheStartSpeed() {
+        Bench bench;
+        bench.open();
+        bench.ask(Command::SetSpeed, LineSpeed{115200}.encode());
+        bench.radio.answerSent(bench.now);
+        bench.ask(Command::Identify);
+        bench.now += WireTiming::kSessionSilence - 1ms;
+        (void)bench.radio.elapse(bench.now);
+        QVERIFY2(bench.radio.inSession(), "a frame at the new speed ends its trial");
+        bench.ask(Command::Identify);
+        bench.now += WireTiming::kSessionSilence;
+        (void)bench.radio.elapse(bench.now);
+        QVERIFY(!bench.radio.inSession());
+        QCOMPARE(bench.radio.speed(), 19200);
+    }
 
-void SimulatedRadioTest::newRequestReplacesTheAnswerUnderWay() {
-    Bench bench;
-    FrameDecoder decoder;
-    decoder.feed(bench.radio.receive(
-        encode({1, request(Command::Identify), {}}) + encode({2, request(Command::Identify), {}}), bench.now));
-    const auto frame = decoder.next();
-    QVERIFY(frame);
-    QCOMPARE(frame->sequence, quint8(2));
-    QVERIFY(!decoder.next());
-}
+    void damagedRequestIsAskedForAgain() {
+        Bench bench;
+        QByteArray damaged = encode({77, request(Command::Identify), {}});
+        damaged[6] = char(damaged[6] ^ 1);
+        FrameDecoder decoder;
+        decoder.feed(bench.radio.receive(damaged, bench.now));
+        const auto frame = decoder.next();
+        QVERIFY(frame);
+        QCOMPARE(frame->sequence, quint8(77));
+        QCOMPARE(Refusal::decode(frame->payload)->code, ErrorCode::FrameCheck);
+    }
 
-void SimulatedRadioTest::lineKeepsItsPaceAndOrder() {
-    LineDirection line(true, 5ms);
-    line.put("abcd", 10000, 0ms); // 1 ms a byte
-    line.put("e", 10000, 1ms);    // waits for the four
-    QVERIFY(line.take(5999us).isEmpty());
-    QCOMPARE(line.take(6ms), QByteArray("a"));
-    QCOMPARE(line.take(8999us), QByteArray("bc"));
-    QCOMPARE(line.take(10ms), QByteArray("de"));
-    QVERIFY(line.isEmpty());
-}
+    void newRequestReplacesTheAnswerUnderWay() {
+        Bench bench;
+        FrameDecoder decoder;
+        decoder.feed(bench.radio.receive(
+            encode({1, request(Command::Identify), {}}) + encode({2, request(Command::Identify), {}}), bench.now));
+        const auto frame = decoder.next();
+        QVERIFY(frame);
+        QCOMPARE(frame->sequence, quint8(2));
+        QVERIFY(!decoder.next());
+    }
 
-void SimulatedRadioTest::faultsTakeEffectAtTheirRate() {
-    FaultyLine line({.drop = 0.01, .corrupt = 0.02, .cutAfter = 100000, .seed = 7});
-    const QByteArray out = line.pass(QByteArray(100000, 'x'), true);
-    const LineCounts &counts = line.counts();
-    QCOMPARE(out.size(), 100000 - counts.dropped);
-    QCOMPARE(out.size() - out.count('x'), counts.corrupted);
-    QVERIFY2(counts.dropped > 800 && counts.dropped < 1200, qPrintable(QString::number(counts.dropped)));
-    QVERIFY2(counts.corrupted > 1700 && counts.corrupted < 2300, qPrintable(QString::number(counts.corrupted)));
-    QVERIFY2(line.pass("dead", true).isEmpty(), "nothing comes through behind the cut");
-}
+    void lineKeepsItsPaceAndOrder() {
+        LineDirection line(true, 5ms);
+        line.put("abcd", 10000, 0ms); // 1 ms a byte
+        line.put("e", 10000, 1ms);    // waits for the four
+        QVERIFY(line.take(5999us).isEmpty());
+        QCOMPARE(line.take(6ms), QByteArray("a"));
+        QCOMPARE(line.take(8999us), QByteArray("bc"));
+        QCOMPARE(line.take(10ms), QByteArray("de"));
+        QVERIFY(line.isEmpty());
+    }
+
+    void faultsTakeEffectAtTheirRate() {
+        FaultyLine line({.drop = 0.01, .corrupt = 0.02, .cutAfter = 100000, .seed = 7});
+        const QByteArray out = line.pass(QByteArray(100000, 'x'), true);
+        const LineCounts &counts = line.counts();
+        QCOMPARE(out.size(), 100000 - counts.dropped);
+        QCOMPARE(out.size() - out.count('x'), counts.corrupted);
+        QVERIFY2(counts.dropped > 800 && counts.dropped < 1200, qPrintable(QString::number(counts.dropped)));
+        QVERIFY2(counts.corrupted > 1700 && counts.corrupted < 2300, qPrintable(QString::number(counts.corrupted)));
+        QVERIFY2(line.pass("dead", true).isEmpty(), "nothing comes through behind the cut");
+    }
+};
 
 QTEST_GUILESS_MAIN(SimulatedRadioTest)
 #include "simulated_radio_test.moc"

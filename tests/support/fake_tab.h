@@ -3,11 +3,14 @@
 #include "fake_control.h"
 
 #include <QStringList>
+#include <utility>
 
 // A tab control (SSTab) without pages' widgets.
 class FakeTab final : public FakeControl, public TabControl {
   public:
-    FakeTab(CallLog &log, const QString &name, QStringList sourceCaptions);
+    FakeTab(CallLog &log, const QString &name, QStringList sourceCaptions)
+        : FakeControl(log, name, QStringLiteral("SSTab")), captions(sourceCaptions),
+          mSourceCaptions(std::move(sourceCaptions)) {}
 
     QStringList captions; // as shown
 

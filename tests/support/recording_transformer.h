@@ -37,106 +37,193 @@ class RecordingTransformer final : public Transformer {
     void AddProgressListener(ProgressEvents *listener) override { mProgressListeners.add(listener); }
     void RemoveProgressListener(ProgressEvents *listener) override { mProgressListeners.remove(listener); }
 
-    qint32 GetSaveAllowed() override;
-    qint32 ResetDatabase() override;
-    QStringList GetDatabaseFieldList() override;
+    qint32 GetSaveAllowed() override { return play(__func__).toInt(); }
+    qint32 ResetDatabase() override { return play(__func__).toInt(); }
+    QStringList GetDatabaseFieldList() override { return play(__func__).toStringList(); }
     void GetFileDetails(const QString &FileName, QString &RadioModel, QString &DatabaseVersion,
                         QString &ApplicationVersion, QString &Networks, QString &Comment, QString &Reserved1,
-                        QString &Reserved2, QString &Reserved3, bool &Result) override;
-    QString GetNavigatorRecordName(const QString &UIID) override;
-    void AbortComms() override;
-    bool FireTrigger(const QString &UIID) override;
-    bool GetFormAvailable(const QString &FormKey, const QString &FormText) override;
-    bool GetSquirtAvailable() override;
-    bool GetProgramAsAvailable() override;
-    qint32 GetVersionLevel() override;
-    bool GetFormIsDirty() override;
-    QString GetDatabaseVersion() override;
-    QString GetFileName() override;
-    QString GetCurrentFormName() override;
-    void SetCurrentFormName(const QString &FormName) override;
-    qint32 GetCurrentFormTreeNode() override;
-    void SetCurrentFormTreeNode(qint32 Index) override;
-    QString GetCurrentTier() override;
-    QString GetRadioModel() override;
-    QString GetTierName() override;
-    bool GetDataIsDirty() override;
-    bool GetNewAllowed() override;
-    QString InitialiseDatabase() override;
-    bool SetAccessLevel(qint32 Level) override;
-    void BeginBatchUpdate() override;
-    void EndBatchUpdate() override;
+                        QString &Reserved2, QString &Reserved3, bool &Result) override {
+        const QStringList details = play(__func__, {FileName}).toStringList();
+        QString *const targets[] = {&RadioModel, &DatabaseVersion, &ApplicationVersion, &Networks,
+                                    &Comment,    &Reserved1,       &Reserved2,          &Reserved3};
+        qsizetype position = 0;
+        for (QString *target : targets)
+            *target = details.value(position++);
+        Result = !details.isEmpty();
+    }
+    QString GetNavigatorRecordName(const QString &UIID) override { return play(__func__, {UIID}).toString(); }
+    void AbortComms() override { play(__func__); }
+    bool FireTrigger(const QString &UIID) override { return play(__func__, {UIID}).toBool(); }
+    bool GetFormAvailable(const QString &FormKey, const QString &FormText) override {
+        return play(__func__, {FormKey, FormText}, true).toBool();
+    }
+    bool GetSquirtAvailable() override { return play(__func__).toBool(); }
+    bool GetProgramAsAvailable() override { return play(__func__).toBool(); }
+    qint32 GetVersionLevel() override { return play(__func__).toInt(); }
+    bool GetFormIsDirty() override { return play(__func__).toBool(); }
+    QString GetDatabaseVersion() override { return play(__func__).toString(); }
+    QString GetFileName() override { return play(__func__).toString(); }
+    QString GetCurrentFormName() override { return play(__func__).toString(); }
+    void SetCurrentFormName(const QString &FormName) override { play(__func__, {FormName}); }
+    qint32 GetCurrentFormTreeNode() override { return play(__func__).toInt(); }
+    void SetCurrentFormTreeNode(qint32 Index) override { play(__func__, {Index}); }
+    QString GetCurrentTier() override { return play(__func__).toString(); }
+    QString GetRadioModel() override { return play(__func__).toString(); }
+    QString GetTierName() override { return play(__func__).toString(); }
+    bool GetDataIsDirty() override { return play(__func__).toBool(); }
+    bool GetNewAllowed() override { return play(__func__, {}, true).toBool(); }
+    QString InitialiseDatabase() override { return play(__func__).toString(); }
+    bool SetAccessLevel(qint32 Level) override { return play(__func__, {Level}, true).toBool(); }
+    void BeginBatchUpdate() override { play(__func__); }
+    void EndBatchUpdate() override { play(__func__); }
     bool ImportRecordByPaste(const QString &GridID, const QString &UIIDList, QWidget *MainWindow,
-                             const QString &Reserved, const QString &SelectedRecordsList) override;
+                             const QString &Reserved, const QString &SelectedRecordsList) override {
+        return play(__func__, {GridID, UIIDList, MainWindow != nullptr, Reserved, SelectedRecordsList}, true).toBool();
+    }
     bool ImportRecordByDrop(const QString &GridID, const QString &UIIDList, const QMimeData *Data, QWidget *MainWindow,
-                            bool Always) override;
-    bool GetTreeNodeHasData(const QString &NodeKey) override;
-    void SortColumn(const QString &UIID, bool Ascending) override;
-    bool ValidateOnExit() override;
-    void AddRecord(const QString &UIID, const QString &GridID, qint32 &RecordNr, bool &OK) override;
-    void SaveForm(const QString &TierKey) override;
-    void DeleteRecord(const QString &UIID, qint32 RecordNr, bool &OK) override;
-    void RefreshFormList() override;
-    QString GetIsComboIndex(const QString &UIID) override;
-    void GetGridData(const QString &UIIDList, bool Dynamic, XArrayDB &Array, qint32 RecordNr, bool &OK) override;
-    QString GetGridCellRaw(const QString &UIID) override;
-    bool GetComboItems(const QString &UIID, qint32 RecordNr, XArrayDB &ComboArray, qint32 &eCboType) override;
-    qint32 GetFieldVersionLevel(const QString &UIID) override;
-    bool GetFieldDisableWhenAbsent(const QString &UIID) override;
-    bool GetFieldEnabled(const QString &UIID, qint32 RecordNr) override;
-    void GetIDItems(const QString &UIID, qint32 RecordNr, XArrayDB &ComboArray) override;
-    QString GetLabel(const QString &UIID) override;
-    QString GetNavigatorLabel(const QString &UIID) override;
-    QString GetValidationString(const QString &UIID) override;
-    QString GetFieldDescription(const QString &UIID) override;
-    QVariant GetValue(const QString &UIID, qint32 RecordNr) override;
-    qint32 GetNumberOfRecords(const QString &GuideUIID) override;
-    qint32 GetHelpID(const QString &UIID) override;
-    qint32 GetUIWidth(const QString &UIID) override;
-    void FieldGotFocus(const QString &UIID) override;
-    void InsertRecord(const QString &UIID, qint32 RecordNr, const QString &GridID, bool &OK) override;
-    void FieldLostFocus(const QString &UIID) override;
-    void RepeatRecord(const QString &UIID, qint32 RecordNr, const QString &GridID, bool &OK) override;
-    void InterrogateRadio() override;
-    void ReloadDefaults(const QString &TierKey) override;
-    void StartUp() override;
-    void ProgramRadio() override;
-    void ReadFile(const QString &FileName, qint32 FileFormat, qint32 FileVersion, bool ReadOnly) override;
-    void ReadRadio(bool Always, bool &Result) override;
-    void SaveFile(const QString &FileName, const QString &FileComment, qint32 Version, bool &Result) override;
-    void ChangeTier(const QString &TierKey) override;
-    void RevertFormData(const QString &TierKey) override;
-    void SetValue(const QString &UIID, const QVariant &Value, qint32 RecordNr, bool Validate, bool &OK) override;
-    void FieldExitFocusValue(const QString &UIID, const QVariant &Value, qint32 RecordNr, bool &Result) override;
-    void FieldEnterFocusValue(const QString &UIID, const QVariant &Value, qint32 RecordNr, bool &Result) override;
-    bool FinalValidate() override;
-    void ValidateForm(const QString &FormTypeName, const QString &FormCaption, bool Validate, bool &OK) override;
-    void SetDataChanged() override;
-    qint32 GetMaxValue(const QString &UIID) override;
-    qint32 GetMinValue(const QString &UIID) override;
-    Currency GetStepValue(const QString &UIID) override;
-    void CopyFieldToTier(const QString &UIID, const QString &TierKey) override;
-    void SetCallerVersion(const QString &Version) override;
-    QVariant GetSetting(const QString &Key, const QVariant &Default) override;
-    void SaveSetting(const QString &Key, const QVariant &Value) override;
-    void GetPrintHeader(QString &Left, QString &Right) override;
-    void ShowDatabaseDialog(QWidget *Owner) override;
-    QString GetFileVersionName() override;
-    QString GetFileVersionByIndex(qint32 Index) override;
-    QStringList GetFileVersionList() override;
-    QString GetDataDirectory() override;
-    QString GetFileExtension() override;
-    void ShutDown() override;
+                            bool Always) override {
+        return play(__func__, {GridID, UIIDList, Data != nullptr, MainWindow != nullptr, Always}, true).toBool();
+    }
+    bool GetTreeNodeHasData(const QString &NodeKey) override { return play(__func__, {NodeKey}).toBool(); }
+    void SortColumn(const QString &UIID, bool Ascending) override { play(__func__, {UIID, Ascending}); }
+    bool ValidateOnExit() override { return play(__func__, {}, true).toBool(); }
+    void AddRecord(const QString &UIID, const QString &GridID, qint32 &RecordNr, bool &OK) override {
+        const QVariant answer = play(__func__, {UIID, GridID, RecordNr}, RecordNr);
+        OK = answer.typeId() != QMetaType::Bool || answer.toBool();
+        if (OK)
+            RecordNr = answer.toInt();
+    }
+    void SaveForm(const QString &TierKey) override { play(__func__, {TierKey}); }
+    void DeleteRecord(const QString &UIID, qint32 RecordNr, bool &OK) override {
+        OK = play(__func__, {UIID, RecordNr}, true).toBool();
+    }
+    void RefreshFormList() override { play(__func__); }
+    QString GetIsComboIndex(const QString &UIID) override { return play(__func__, {UIID}).toString(); }
+    void GetGridData(const QString &UIIDList, bool Dynamic, XArrayDB &Array, qint32 RecordNr, bool &OK) override {
+        const QVariant answer = play(__func__, {UIIDList, Dynamic, RecordNr});
+        OK = answer.isValid();
+        fill(Array, answer);
+    }
+    QString GetGridCellRaw(const QString &UIID) override { return play(__func__, {UIID}).toString(); }
+    bool GetComboItems(const QString &UIID, qint32 RecordNr, XArrayDB &ComboArray, qint32 &eCboType) override {
+        const QVariant answer = play(__func__, {UIID, RecordNr, eCboType});
+        fill(ComboArray, answer);
+        return answer.isValid();
+    }
+    qint32 GetFieldVersionLevel(const QString &UIID) override { return play(__func__, {UIID}).toInt(); }
+    bool GetFieldDisableWhenAbsent(const QString &UIID) override { return play(__func__, {UIID}).toBool(); }
+    bool GetFieldEnabled(const QString &UIID, qint32 RecordNr) override {
+        return play(__func__, {UIID, RecordNr}, true).toBool();
+    }
+    void GetIDItems(const QString &UIID, qint32 RecordNr, XArrayDB &ComboArray) override {
+        fill(ComboArray, play(__func__, {UIID, RecordNr}));
+    }
+    QString GetLabel(const QString &UIID) override { return play(__func__, {UIID}).toString(); }
+    QString GetNavigatorLabel(const QString &UIID) override { return play(__func__, {UIID}).toString(); }
+    QString GetValidationString(const QString &UIID) override { return play(__func__, {UIID}).toString(); }
+    QString GetFieldDescription(const QString &UIID) override { return play(__func__, {UIID}).toString(); }
+    QVariant GetValue(const QString &UIID, qint32 RecordNr) override {
+        return play(__func__, {UIID, RecordNr}, QString());
+    }
+    qint32 GetNumberOfRecords(const QString &GuideUIID) override { return play(__func__, {GuideUIID}).toInt(); }
+    qint32 GetHelpID(const QString &UIID) override { return play(__func__, {UIID}).toInt(); }
+    qint32 GetUIWidth(const QString &UIID) override { return play(__func__, {UIID}).toInt(); }
+    void FieldGotFocus(const QString &UIID) override { play(__func__, {UIID}); }
+    void InsertRecord(const QString &UIID, qint32 RecordNr, const QString &GridID, bool &OK) override {
+        OK = play(__func__, {UIID, RecordNr, GridID}, true).toBool();
+    }
+    void FieldLostFocus(const QString &UIID) override { play(__func__, {UIID}); }
+    void RepeatRecord(const QString &UIID, qint32 RecordNr, const QString &GridID, bool &OK) override {
+        OK = play(__func__, {UIID, RecordNr, GridID}, true).toBool();
+    }
+    void InterrogateRadio() override { play(__func__); }
+    void ReloadDefaults(const QString &TierKey) override { play(__func__, {TierKey}); }
+    void StartUp() override { play(__func__); }
+    void ProgramRadio() override { play(__func__); }
+    void ReadFile(const QString &FileName, qint32 FileFormat, qint32 FileVersion, bool ReadOnly) override {
+        play(__func__, {FileName, FileFormat, FileVersion, ReadOnly});
+    }
+    void ReadRadio(bool Always, bool &Result) override { Result = play(__func__, {Always}, true).toBool(); }
+    void SaveFile(const QString &FileName, const QString &FileComment, qint32 Version, bool &Result) override {
+        Result = play(__func__, {FileName, FileComment, Version}, true).toBool();
+    }
+    void ChangeTier(const QString &TierKey) override { play(__func__, {TierKey}); }
+    void RevertFormData(const QString &TierKey) override { play(__func__, {TierKey}); }
+    void SetValue(const QString &UIID, const QVariant &Value, qint32 RecordNr, bool Validate, bool &OK) override {
+        OK = play(__func__, {UIID, Value, RecordNr, Validate}, true).toBool();
+    }
+    void FieldExitFocusValue(const QString &UIID, const QVariant &Value, qint32 RecordNr, bool &Result) override {
+        Result = play(__func__, {UIID, Value, RecordNr}, true).toBool();
+    }
+    void FieldEnterFocusValue(const QString &UIID, const QVariant &Value, qint32 RecordNr, bool &Result) override {
+        Result = play(__func__, {UIID, Value, RecordNr}, true).toBool();
+    }
+    bool FinalValidate() override { return play(__func__, {}, true).toBool(); }
+    void ValidateForm(const QString &FormTypeName, const QString &FormCaption, bool Validate, bool &OK) override {
+        OK = play(__func__, {FormTypeName, FormCaption, Validate}, true).toBool();
+    }
+    void SetDataChanged() override { play(__func__); }
+    qint32 GetMaxValue(const QString &UIID) override { return play(__func__, {UIID}).toInt(); }
+    qint32 GetMinValue(const QString &UIID) override { return play(__func__, {UIID}).toInt(); }
+    Currency GetStepValue(const QString &UIID) override {
+        const QVariant answer = play(__func__, {UIID}, 0);
+        return answer.canConvert<Currency>() ? answer.value<Currency>() : Currency::fromDouble(answer.toDouble());
+    }
+    void CopyFieldToTier(const QString &UIID, const QString &TierKey) override { play(__func__, {UIID, TierKey}); }
+    void SetCallerVersion(const QString &Version) override { play(__func__, {Version}); }
+    QVariant GetSetting(const QString &Key, const QVariant &Default) override {
+        return play(__func__, {Key, Default}, Default);
+    }
+    void SaveSetting(const QString &Key, const QVariant &Value) override { play(__func__, {Key, Value}); }
+    void GetPrintHeader(QString &Left, QString &Right) override {
+        const QStringList texts = play(__func__).toStringList();
+        Left = texts.value(0);
+        Right = texts.value(1);
+    }
+    void ShowDatabaseDialog(QWidget *Owner) override { play(__func__, {Owner != nullptr}); }
+    QString GetFileVersionName() override { return play(__func__).toString(); }
+    QString GetFileVersionByIndex(qint32 Index) override { return play(__func__, {Index}).toString(); }
+    QStringList GetFileVersionList() override { return play(__func__).toStringList(); }
+    QString GetDataDirectory() override { return play(__func__).toString(); }
+    QString GetFileExtension() override { return play(__func__).toString(); }
+    void ShutDown() override { play(__func__); }
     void GetTreeFilterTabs(QStringList &TabNames, QHash<QString, QString> &TabToolTips, QStringList &FormList,
                            QStringList &FormDescList, QHash<QString, QVariant> &FormAccessLevels,
-                           QHash<QString, QVariant> &FormNetworks, QStringList &FormTypeList) override;
-    void SetProviderUpdateUIOnFieldChange(bool On) override;
-    bool GetRecordDeletedRefreshNeeded() override;
-    bool GetLoadFailed() override;
-    QString GetHelpText(const QString &UIID) override;
+                           QHash<QString, QVariant> &FormNetworks, QStringList &FormTypeList) override {
+        const QVariantList answer = play(__func__).toList();
+        TabNames = answer.value(0).toStringList();
+        const QVariantHash tips = answer.value(1).toHash();
+        for (auto tip = tips.begin(); tip != tips.end(); ++tip)
+            TabToolTips.insert(tip.key(), tip.value().toString());
+        FormList = answer.value(2).toStringList();
+        FormDescList = answer.value(3).toStringList();
+        FormAccessLevels = answer.value(4).toHash();
+        FormNetworks = answer.value(5).toHash();
+        FormTypeList = answer.value(6).toStringList();
+    }
+    void SetProviderUpdateUIOnFieldChange(bool On) override { play(__func__, {On}); }
+    bool GetRecordDeletedRefreshNeeded() override { return play(__func__).toBool(); }
+    bool GetLoadFailed() override { return play(__func__).toBool(); }
+    QString GetHelpText(const QString &UIID) override { return play(__func__, {UIID}).toString(); }
 
   private:
-    QVariant play(const char *operation, const QVariantList &arguments = {}, const QVariant &fallback = {});
+    // Rows of cells joined by "|"; the first row tells the number of columns.
+    static void fill(XArrayDB &array, const QVariant &rows) {
+        const QStringList lines = rows.toStringList();
+        array.Clear();
+        if (lines.isEmpty())
+            return;
+        array.ReDim(qint32(lines.size()) - 1, qint32(lines.first().count(u'|')));
+        for (qint32 row = 0; row <= array.UpperBound(1); ++row) {
+            const QStringList cells = lines.at(row).split(u'|');
+            for (qint32 column = 0; column <= array.UpperBound(2); ++column)
+                array.SetValue(row, column, cells.value(column));
+        }
+    }
+
+    QVariant play(const char *operation, const QVariantList &arguments = {}, const QVariant &fallback = {}) {
+        return mScript.play(QString::fromLatin1(operation), arguments, fallback);
+    }
 
     CallScript mScript;
     ListenerList<TransformerEvents> mListeners;

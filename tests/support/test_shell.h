@@ -19,8 +19,14 @@ class TestShell final : public FormShell {
     [[nodiscard]] QString LoadedFormTypeName() const override { return formTypeName; }
     [[nodiscard]] QString LoadedFormTitle() const override { return formTitle; }
     [[nodiscard]] QWidget *MainWindow() const override { return mainWindow; }
-    void ShowWhatsThisHelp(qint32 HelpContextID) override;
-    void StartDrag(const QString &id, const QString &typeName) override;
-    void FinishedDrag() override;
-    void SilentMode(bool silent) override;
+    void ShowWhatsThisHelp(qint32 HelpContextID) override {
+        told << QStringLiteral("ShowWhatsThisHelp(%1)").arg(HelpContextID);
+    }
+    void StartDrag(const QString &id, const QString &typeName) override {
+        told << QStringLiteral("StartDrag(%1, %2)").arg(id, typeName);
+    }
+    void FinishedDrag() override { told << QStringLiteral("FinishedDrag()"); }
+    void SilentMode(bool silent) override {
+        told << QStringLiteral("SilentMode(%1)").arg(silent ? QStringLiteral("true") : QStringLiteral("false"));
+    }
 };
