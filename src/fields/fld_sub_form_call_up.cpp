@@ -23,16 +23,17 @@ fldSubFormCallUp::fldSubFormCallUp(const FieldServices &services, const FieldPro
     reader.refuseUnknown();
     // All call-ups of a form may have the same caption; this tells them apart.
     button().setAccessibleDescription(services.translation.NLSStr(mRequest.SubFormDescription));
-    connect(&button(), &QPushButton::clicked, this, &fldSubFormCallUp::cmdCallUp_Click);
+    connect(&button(), &QPushButton::clicked, this, [this] { CallUp(QString()); });
     SetTabStop(true);
     SetControlSize(kDefinitionSize);
 }
 
-void fldSubFormCallUp::cmdCallUp_Click() {
+void fldSubFormCallUp::CallUp(const QString &firstControl) {
     // The control may be gone when the window has closed.
     ErrorReport &errors = mErrors;
     try {
-        const SubFormRequest request = mRequest;
+        SubFormRequest request = mRequest;
+        request.FirstControl = firstControl;
         mOpener.OpenSubForm(request, services(), window());
     } catch (...) {
         errors.Tail("cmdCallUp_Click");

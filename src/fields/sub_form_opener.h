@@ -10,6 +10,7 @@ struct SubFormRequest {
     QString SubFormControlName; // for example "usrctlFreeFormatDetail"
     QString SubFormDescription; // the window's title, untranslated
     qint32 SubFormRecordNr = 0;
+    QString FirstControl; // that gets the focus, by its name; "": the first one
 };
 
 // Opens sub-forms for the call-ups, which know nothing of forms.

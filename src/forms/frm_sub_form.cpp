@@ -56,15 +56,23 @@ void frmSubForm::setUpParts() {
     all->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-void frmSubForm::OpenSubForm(qint32 record) try {
+void frmSubForm::OpenSubForm(qint32 record, const QString &firstControl) try {
     // However it ends, also by an error in the middle, the hosted form goes.
     const auto unload = qScopeGuard([this] { Form_Unload(); });
     hostForm(record);
     show();
     mForm->UserControl_Show();
+    focusOn(firstControl);
     exec();
 }
 ERROR_TAIL()
+
+void frmSubForm::focusOn(const QString &control) {
+    for (HostControl *candidate : mForm->Iusrfrm_Controls()) {
+        if (!control.isEmpty() && candidate->Name() == control)
+            candidate->SetFocus();
+    }
+}
 
 void frmSubForm::hostForm(qint32 record) {
     mForm = mFactory.CreateForm(mTag, mServices, mpicInternalFrame);

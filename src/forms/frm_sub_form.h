@@ -26,8 +26,9 @@ class frmSubForm final : public QDialog {
     // The control name of the form to be hosted.
     [[nodiscard]] const QString &Tag() const { return mTag; }
     void Tag(const QString &formName) { mTag = formName; }
-    // Hosts the form on that record, shows the window and returns when it has closed. An error closes it.
-    void OpenSubForm(qint32 record);
+    // Hosts the form on that record, shows the window with the focus on the control of that name, "" for the first one,
+    // and returns when it has closed. An error closes it.
+    void OpenSubForm(qint32 record, const QString &firstControl = {});
     // Puts every field back to what it held when the window opened; what is refused stays silent.
     void RollbackSubForm();
 
@@ -38,6 +39,7 @@ class frmSubForm final : public QDialog {
   private:
     void setUpParts();
     void hostForm(qint32 record);
+    void focusOn(const QString &control);
     void Form_Unload();
     void OKButton_Click();
     void cmdCancel_Click();

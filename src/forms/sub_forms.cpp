@@ -11,5 +11,5 @@ void SubForms::OpenSubForm(const SubFormRequest &request, const FieldServices &s
     mOpen = &window;
     window.setWindowTitle(services.translation.NLSStr(request.SubFormDescription));
     window.Tag(request.SubFormControlName);
-    window.OpenSubForm(request.SubFormRecordNr);
+    window.OpenSubForm(request.SubFormRecordNr, request.FirstControl);
 }

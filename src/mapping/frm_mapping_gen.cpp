@@ -127,9 +127,10 @@ void frmMappingGen::setTexts() {
                    QStringLiteral(" (%1)").arg(ProductIdentity::fullVersion()));
 }
 
-void frmMappingGen::showEvent(QShowEvent *event) {
-    setTexts();
-    QMainWindow::showEvent(event);
+void frmMappingGen::changeEvent(QEvent *event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setTexts();
 }
 
 void frmMappingGen::UpdateUI() try { clsMappingGen::GetAsTextBox(*mTxtScript, mRecorder.UICollection()); }

@@ -53,7 +53,7 @@ class frmMappingGen final : public QMainWindow {
     [[nodiscard]] const QStringList &OriginalValue() const { return mOriginal; }
 
   protected:
-    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     void moveEvent(QMoveEvent *event) override;
 

@@ -11,6 +11,7 @@
 #include "iusrfrm.h"
 #include "message_style.h"
 #include "process_values.h"
+#include "sub_form_call_up.h"
 #include "transformer.h"
 #include "tree_navigation.h"
 
@@ -45,8 +46,10 @@ void FindFieldLanding::Open(const FindFieldHit &hit) {
     if (node == 0 || !openForm(hit, node))
         return;
     mParts.window.activateWindow();
-    if (HostControl *control = controlOf(hit.name))
+    if (HostControl *control = controlOf(hit))
         land(*control, hit);
+    else
+        landInSubForm(hit.name);
 }
 
 bool FindFieldLanding::openForm(const FindFieldHit &hit, qint32 node) {
@@ -68,20 +71,35 @@ bool FindFieldLanding::pendingEntryTaken() {
     const auto enabler = mProcess.colEnablers.Item(QStringLiteral("Main"));
     if (!mParts.host.IsFormLoaded() || enabler == nullptr)
         return true;
-    enabler->Ienabler_ForceSaveToCurrentField();
+    if (mProcess.objTransformer->GetFormIsDirty()) // as it is from the first key on; forcing would mark it
+        enabler->Ienabler_ForceSaveToCurrentField();
     if (enabler->Ienabler_OKToLeaveForm())
         return true;
     mParts.window.activateWindow();
     return false;
 }
 
-HostControl *FindFieldLanding::controlOf(const QString &name) const {
+HostControl *FindFieldLanding::controlOf(const FindFieldHit &hit) const {
+    int passed = 0;
     for (HostControl *control : mParts.host.LoadedUsrControl().form->Iusrfrm_Controls()) {
         const auto *grid = dynamic_cast<const Igrid *>(control->object());
-        if (control->Name() == name || (grid != nullptr && grid->Igrid_GetUIIDList().split(u'|').contains(name)))
+        const bool shows = control->Name() == hit.name ||
+                           (grid != nullptr && grid->Igrid_GetUIIDList().split(u'|').contains(hit.name));
+        if (shows && passed++ == hit.nth)
             return control;
     }
     return nullptr;
+}
+
+// Any call-up leads there; the first one does as well as the others.
+void FindFieldLanding::landInSubForm(const QString &name) const {
+    for (QWidget *widget : mParts.host.LoadedUsrControl().widget->findChildren<QWidget *>()) {
+        auto *callUp = dynamic_cast<SubFormCallUp *>(widget);
+        if (callUp == nullptr)
+            continue;
+        showPageOf(*widget);
+        return callUp->CallUp(name);
+    }
 }
 
 void FindFieldLanding::land(HostControl &control, const FindFieldHit &hit) {

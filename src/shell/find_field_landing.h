@@ -12,7 +12,8 @@ class TreeNavigation;
 struct FindFieldHit;
 struct ProcessValues;
 
-// Goes to what was found: opens the form, shows the page and gives the field the focus.
+// Goes to what was found: opens the form, shows the page and gives the field the focus; opens the sub-form where the
+// field stands in one.
 class FindFieldLanding {
   public:
     struct Parts {
@@ -31,7 +32,8 @@ class FindFieldLanding {
     bool openForm(const FindFieldHit &hit, qint32 node);
     // False: refused, and the form keeps it.
     bool pendingEntryTaken();
-    [[nodiscard]] HostControl *controlOf(const QString &name) const;
+    [[nodiscard]] HostControl *controlOf(const FindFieldHit &hit) const;
+    void landInSubForm(const QString &name) const;
     void land(HostControl &control, const FindFieldHit &hit);
 
     const ProcessValues &mProcess;

@@ -2,10 +2,12 @@
 
 #include "ctl_form_enabler.h"
 #include "form_nodes.h"
+#include "ifield.h"
 #include "igrid.h"
 #include "iusrfrm.h"
 #include "process_values.h"
 #include "shell_ports.h"
+#include "sub_form_call_up.h"
 #include "transformer.h"
 #include "translation.h"
 
@@ -20,6 +22,21 @@ const QString kSeparator = QStringLiteral(" - ");
 const QString kNavigator = QStringLiteral("fldPageNavigator");
 
 bool matches(const QString &name, const QString &upperText) { return name.toUpper().contains(upperText); }
+
+QString labelOf(const FieldServices &services, const QString &uiid) {
+    return services.translation.NLSStr(services.process.objTransformer->GetLabel(uiid));
+}
+
+// By their class names, each once.
+QStringList calledForms(const QWidget &form) {
+    QStringList names;
+    for (const QWidget *widget : form.findChildren<QWidget *>()) {
+        if (const auto *callUp = dynamic_cast<const SubFormCallUp *>(widget))
+            names << callUp->CalledForm();
+    }
+    names.removeDuplicates();
+    return names;
+}
 
 // A form for a moment: its enabler is the current one meanwhile.
 class BorrowedForm {
@@ -63,18 +80,23 @@ QStringList FindFieldSearch::Find(const QString &text) const {
     QStringList lines;
     for (qint32 node = 1; node <= mNodes.Count(); ++node) {
         if (mNodes.Children(node).empty())
-            CheckForm(mNodes.Key(node), mNodes.Text(node), text, lines);
+            CheckForm(mNodes.Key(node), {mNodes.Text(node), QString(), text.toUpper()}, lines);
     }
     return lines.isEmpty() ? QStringList{kNotFound} : lines;
 }
 
-void FindFieldSearch::CheckForm(const QString &key, const QString &formText, const QString &text,
-                                QStringList &lines) const {
+void FindFieldSearch::CheckForm(const QString &key, const FindFieldHit &pattern, QStringList &lines) const {
     if (!mFactory.CanCreate(key))
         return;
-    const HostedForm form = mFactory.CreateForm(key, mServices, &mWindow);
-    const BorrowedForm borrowed(mServices.process, form);
-    checkControls(*form.form, {formText, QString(), text.toUpper()}, lines);
+    QStringList subForms;
+    {
+        const HostedForm form = mFactory.CreateForm(key, mServices, &mWindow);
+        const BorrowedForm borrowed(mServices.process, form);
+        checkControls(*form.form, pattern, lines);
+        subForms = calledForms(*form.widget);
+    }
+    for (const QString &subForm : subForms)
+        CheckForm(subForm, pattern, lines);
 }
 
 void FindFieldSearch::checkControls(Iusrfrm &form, const FindFieldHit &pattern, QStringList &lines) const {
@@ -88,10 +110,13 @@ void FindFieldSearch::checkControls(Iusrfrm &form, const FindFieldHit &pattern, 
     for (const HostControl *control : form.Iusrfrm_Controls()) {
         if (kFields.contains(control->TypeName())) {
             setLabel(form, *control);
-            test(control->Name(), control->object()->Ifield_GetName());
+            const Ifield &field = *control->object();
+            // A check box in a column with a heading has blanks for a caption.
+            const bool blank = field.Ifield_GetName().trimmed().isEmpty();
+            test(control->Name(), blank ? labelOf(mServices, field.Ifield_GetUIID()) : field.Ifield_GetName());
         } else if (const auto *grid = dynamic_cast<const Igrid *>(control->object())) {
             for (const QString &uiid : grid->Igrid_GetUIIDList().split(u'|', Qt::SkipEmptyParts))
-                test(uiid, mServices.translation.NLSStr(mServices.process.objTransformer->GetLabel(uiid)));
+                test(uiid, labelOf(mServices, uiid));
         }
     }
 }

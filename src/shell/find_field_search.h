@@ -18,6 +18,7 @@ struct FindFieldHit {
     QString form; // tree text
     QString label;
     QString name;
+    int nth = 0; // from 0, among equal lines: a field and a column of a grid may be the same setting
 
     [[nodiscard]] QString Line() const;
     // Nothing for "Not Found". The form ends at the first " - ".
@@ -25,7 +26,7 @@ struct FindFieldHit {
 };
 
 // Finds fields by a part of their control name or label, in any case. There is no index: each form of the tree is built
-// for a moment, without filling its fields.
+// for a moment, without filling its fields. What a sub-form has is found under the form that calls it up.
 class FindFieldSearch {
   public:
     // window: the forms' parent for that moment. All outlive it.
@@ -36,7 +37,7 @@ class FindFieldSearch {
     [[nodiscard]] QStringList Find(const QString &text) const;
 
   private:
-    void CheckForm(const QString &key, const QString &formText, const QString &text, QStringList &lines) const;
+    void CheckForm(const QString &key, const FindFieldHit &pattern, QStringList &lines) const;
     void checkControls(Iusrfrm &form, const FindFieldHit &pattern, QStringList &lines) const;
     void setLabel(Iusrfrm &form, const HostControl &control) const;
 

@@ -31,7 +31,12 @@ class frmFindField final : public QDialog {
     // Opens the current line's form at its field; nothing for "Not Found".
     void lstOutput_DblClick();
 
+  protected:
+    void changeEvent(QEvent *event) override;
+
   private:
+    void setTexts();
+
     Services mServices;
     ErrorReport &mErrors;
     QLineEdit *mTxtSearch;

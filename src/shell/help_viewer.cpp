@@ -37,40 +37,37 @@ constexpr std::array kActions{
 };
 } // namespace
 
-HelpViewer::HelpViewer(const QString &folder, const Translate &translate, QWidget *parent)
-    : QMainWindow(parent, Qt::Window), mFolder(folder), mTopics(folder), mBrowser(new HelpBrowser(this)),
-      mNothingFound(translate(QStringLiteral("Nothing found"))) {
+HelpViewer::HelpViewer(const QString &folder, std::function<QString(const QString &)> translate, QWidget *parent)
+    : QMainWindow(parent, Qt::Window), mFolder(folder), mTopics(folder), mTranslate(std::move(translate)),
+      mBrowser(new HelpBrowser(this)) {
     setObjectName(QStringLiteral("frmHelp"));
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(translate(QStringLiteral("Help")));
     setWindowIcon(loadIcon(ProgramIcon::kHelp));
     resize(kFirstSize);
-    mBrowser->setAccessibleName(translate(QStringLiteral("Help")));
     auto *splitter = new QSplitter(this);
-    splitter->addWidget(sidePane(translate));
+    splitter->addWidget(sidePane());
     splitter->addWidget(mBrowser);
     splitter->setStretchFactor(1, 1);
     splitter->setSizes({kSideWidth, kFirstSize.width() - kSideWidth});
     setCentralWidget(splitter);
-    addActions(translate);
+    addActions();
+    setTexts();
     fillContents();
     connect(mBrowser, &QTextBrowser::sourceChanged, this, [this] { markInContents(); });
     mBrowser->setFocus();
 }
 
-void HelpViewer::addActions(const Translate &translate) {
-    auto *bar = addToolBar(translate(QStringLiteral("Help")));
+void HelpViewer::addActions() {
+    auto *bar = addToolBar(QString());
     bar->setObjectName(QStringLiteral("tbrHelp"));
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
     for (const ActionRow &row : kActions) {
-        const QString text = translate(QString::fromLatin1(row.text));
-        QAction *action = bar->addAction(text);
+        QAction *action = bar->addAction(QString());
         action->setObjectName(QString::fromLatin1(row.name));
         action->setShortcut(QKeySequence(QString::fromLatin1(row.key)));
-        action->setToolTip(text + QStringLiteral(" (%1)").arg(QString::fromLatin1(row.key)));
         connect(action, &QAction::triggered, this, [this, run = row.run] { run(*this, *mBrowser); });
     }
     QAction *back = findChild<QAction *>(QStringLiteral("actBack"));
@@ -81,23 +78,19 @@ void HelpViewer::addActions(const Translate &translate) {
     connect(mBrowser, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
 }
 
-QWidget *HelpViewer::sidePane(const Translate &translate) {
+QWidget *HelpViewer::sidePane() {
     auto *pane = new QWidget(this);
     auto *column = new QVBoxLayout(pane);
     column->setContentsMargins(0, 0, 0, 0);
     mSearch = new QLineEdit(pane);
     mSearch->setObjectName(QStringLiteral("txtHelpSearch"));
-    mSearch->setPlaceholderText(translate(QStringLiteral("Search")));
-    mSearch->setAccessibleName(translate(QStringLiteral("Search")));
     mSearch->setClearButtonEnabled(true);
     mSearch->installEventFilter(this);
     mContents = new QTreeWidget(pane);
     mContents->setObjectName(QStringLiteral("treHelpContents"));
-    mContents->setAccessibleName(translate(QStringLiteral("Contents")));
     mContents->setHeaderHidden(true);
     mHits = new QListWidget(pane);
     mHits->setObjectName(QStringLiteral("lstHelpHits"));
-    mHits->setAccessibleName(translate(QStringLiteral("Search")));
     mHits->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff); // long entries end in dots and have a tip
     mPages = new QStackedWidget(pane);
     mPages->addWidget(mContents);
@@ -112,6 +105,30 @@ QWidget *HelpViewer::sidePane(const Translate &translate) {
             ShowPlace(item->data(0, kPlaceRole).toString());
     });
     return pane;
+}
+
+void HelpViewer::setTexts() {
+    const QString help = mTranslate(QStringLiteral("Help"));
+    const QString search = mTranslate(QStringLiteral("Search"));
+    setWindowTitle(help);
+    mBrowser->setAccessibleName(help);
+    findChild<QToolBar *>()->setWindowTitle(help);
+    mSearch->setPlaceholderText(search);
+    mSearch->setAccessibleName(search);
+    mHits->setAccessibleName(search);
+    mContents->setAccessibleName(mTranslate(QStringLiteral("Contents")));
+    for (const ActionRow &row : kActions) {
+        auto *action = findChild<QAction *>(QString::fromLatin1(row.name));
+        action->setText(mTranslate(QString::fromLatin1(row.text)));
+        action->setToolTip(
+            QStringLiteral("%1 (%2)").arg(action->text(), action->shortcut().toString(QKeySequence::NativeText)));
+    }
+}
+
+void HelpViewer::changeEvent(QEvent *event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::LanguageChange)
+        setTexts();
 }
 
 void HelpViewer::fillContents() {
@@ -161,7 +178,7 @@ void HelpViewer::find(const QString &text) {
         item->setToolTip(item->text());
     }
     if (mHits->count() == 0)
-        (new QListWidgetItem(mNothingFound, mHits))->setFlags(Qt::NoItemFlags);
+        (new QListWidgetItem(mTranslate(QStringLiteral("Nothing found")), mHits))->setFlags(Qt::NoItemFlags);
 }
 
 // The marked hit, or the first one.

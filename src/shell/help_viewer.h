@@ -19,7 +19,7 @@ class HelpViewer final : public QMainWindow {
   public:
     // folder: the pages, with their list of topics. translate: the window's own texts. A parent keeps the window above
     // itself and usable while the parent is modal.
-    HelpViewer(const QString &folder, const std::function<QString(const QString &)> &translate, QWidget *parent);
+    HelpViewer(const QString &folder, std::function<QString(const QString &)> translate, QWidget *parent);
 
     // place: "page.html" or "page.html#anchor", below the folder. False if there is no such page.
     bool ShowPlace(const QString &place);
@@ -31,13 +31,14 @@ class HelpViewer final : public QMainWindow {
     [[nodiscard]] QString Place() const;
 
   protected:
+    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
   private:
-    using Translate = std::function<QString(const QString &)>;
-    void addActions(const Translate &translate);
-    QWidget *sidePane(const Translate &translate);
+    void addActions();
+    QWidget *sidePane();
+    void setTexts();
     void fillContents();
     void find(const QString &text);
     void openHit();
@@ -45,10 +46,10 @@ class HelpViewer final : public QMainWindow {
 
     QString mFolder;
     HelpTopics mTopics;
+    std::function<QString(const QString &)> mTranslate;
     HelpBrowser *mBrowser;
     QLineEdit *mSearch = nullptr;
     QStackedWidget *mPages = nullptr;
     QTreeWidget *mContents = nullptr;
     QListWidget *mHits = nullptr;
-    QString mNothingFound;
 };

@@ -15,9 +15,11 @@
 namespace {
 struct Row {
     const char *name;
-    int codePage; // 0: any
+    int codePage;       // 0: any
+    const char *locale; // of the toolkit's texts
 };
-constexpr std::array kLanguages{Row{"English", 0}, Row{"French", 1252}, Row{"Chinese", 936}, Row{"Spanish", 1252}};
+constexpr std::array kLanguages{Row{"English", 0, ""}, Row{"French", 1252, "fr"}, Row{"Chinese", 936, "zh_CN"},
+                                Row{"Spanish", 1252, "es"}};
 
 const Row *rowOf(qint32 language) {
     return language >= 1 && language <= qint32(kLanguages.size()) ? &kLanguages.at(std::size_t(language - 1)) : nullptr;
@@ -54,6 +56,7 @@ bool LanguageSetup::SetupLanguage() try {
     }
     mTranslation.Dictionary().Load(DictionaryFile());
     mTexts.Translate();
+    mToolkitTexts.Use(QString::fromLatin1(rowOf(mTranslation.gLanguage)->locale));
     if (changed)
         mShowFirstTier();
     return true;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "toolkit_texts.h"
+
 #include <QString>
 
 #include <functional>
@@ -10,7 +12,8 @@ class Transformer;
 class TranslatedTexts;
 class Translation;
 
-// The language of the window, from the setting "Language": 1 English, 2 French, 3 Chinese, 4 Spanish.
+// The language of the program, the toolkit's own texts included, from the setting "Language": 1 English, 2 French, 3
+// Chinese, 4 Spanish.
 class LanguageSetup {
   public:
     // showFirstTier runs when the language has changed while the window stands.
@@ -33,4 +36,5 @@ class LanguageSetup {
     TranslatedTexts &mTexts;
     ErrorReport &mErrors;
     std::function<void()> mShowFirstTier;
+    ToolkitTexts mToolkitTexts;
 };

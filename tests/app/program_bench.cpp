@@ -15,6 +15,8 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
+#include <span>
+
 namespace {
 constexpr int kWidth = 1024;
 constexpr int kHeight = 768;
@@ -123,13 +125,17 @@ Ifield *ProgramBench::field(const QString &name) const {
 
 QWidget *ProgramBench::widget(const QString &name) const { return dynamic_cast<QWidget *>(field(name)); }
 
+bool ProgramBench::isValue(const QString &typeName) {
+    return QStringList{QStringLiteral("fldTextField"), QStringLiteral("fldComboField"),
+                       QStringLiteral("fldCheckboxField"), QStringLiteral("fldIdTrackerField")}
+        .contains(typeName);
+}
+
 std::vector<Ifield *> ProgramBench::usableFields() const {
-    static const QStringList kTypes{QStringLiteral("fldTextField"), QStringLiteral("fldComboField"),
-                                    QStringLiteral("fldCheckboxField"), QStringLiteral("fldIdTrackerField")};
     std::vector<Ifield *> fields;
     for (const HostControl *candidate : form()->Iusrfrm_Controls()) {
         Ifield *shown = candidate->object();
-        if (kTypes.contains(candidate->TypeName()) && shown->Ifield_GetVisible() && shown->Ifield_GetEnabled() &&
+        if (isValue(candidate->TypeName()) && shown->Ifield_GetVisible() && shown->Ifield_GetEnabled() &&
             candidate->Enabled() && !shown->Ifield_GetUIIDNotFound())
             fields.push_back(shown);
     }
@@ -145,6 +151,33 @@ void ProgramBench::setValue(const QString &uiid, qint32 record, const QVariant &
     component().SetValue(uiid, value, record, true, accepted);
     if (!accepted)
         failTest(QStringLiteral("%1 %2 was refused").arg(uiid, ValueText::of(value)));
+}
+
+void ProgramBench::addRecords() const {
+    struct Kind {
+        const char *guide;
+        const char *grid;
+    };
+    constexpr Kind kKinds[] = {{"NetworkID", "Network"},
+                               {"ChannelID_q7r", "Channels9000"},
+                               {"GroupID_q7r", "ScanGroup"},
+                               {"SignalSystemId_q7r", "Selcall9000"},
+                               {"DTMFNetworkSigSystemID", "DTMF"},
+                               {"T99NetworkID_q7r", "Type99"},
+                               {"MDC1200SignallingSystemID", "MDC1200"}};
+    const QHash<QString, std::size_t> kinds{
+        {QStringLiteral("Basic"), 3}, {QStringLiteral("Standard"), 5}, {QStringLiteral("Advanced"), 7}};
+    const std::size_t count = kinds.value(component().GetCurrentTier());
+    for (const Kind &kind : std::span(kKinds).first(count)) {
+        const QString guide = QString::fromLatin1(kind.guide);
+        qint32 record = component().GetNumberOfRecords(guide) + 1;
+        bool accepted = false;
+        component().AddRecord(guide, QString::fromLatin1(kind.grid), record, accepted);
+        if (!accepted)
+            failTest(QStringLiteral("no record was added for ") + guide);
+    }
+    if (count > 3)
+        setValue(QStringLiteral("SignallingType"), 1, 1);
 }
 
 void ProgramBench::picture(QWidget &widget, const QString &name) {

@@ -52,6 +52,8 @@ class ProgramBench {
     [[nodiscard]] HostControl *control(const QString &name) const;
     [[nodiscard]] Ifield *field(const QString &name) const;
     [[nodiscard]] QWidget *widget(const QString &name) const;
+    // A control of that class has one value.
+    [[nodiscard]] static bool isValue(const QString &typeName);
     // Those with a value that show and are enabled, in their order.
     [[nodiscard]] std::vector<Ifield *> usableFields() const;
     // A part of a control, by its object name.
@@ -67,6 +69,9 @@ class ProgramBench {
     [[nodiscard]] QString value(const QString &uiid, qint32 record = 1) const;
     // Fails the test if the component refuses it.
     void setValue(const QString &uiid, qint32 record, const QVariant &value) const;
+
+    // A further record of every kind that the tier has, so that each form has something to show and may be opened.
+    void addRecords() const;
 
     // Writes pictures in light and dark where KX4600_PICTURES names a folder, for people to look at.
     static void picture(QWidget &widget, const QString &name);

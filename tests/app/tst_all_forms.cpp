@@ -20,8 +20,6 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-#include <span>
-
 namespace {
 constexpr QSize kSmall(1024, 768);
 constexpr QSize kLarge(1600, 1000);
@@ -43,32 +41,6 @@ QStringList formsOf(const ProgramBench &bench) {
             captions << (*at)->text(0);
     }
     return captions;
-}
-
-// A further record of every kind that the tier has, so that each form has something to show and may be opened.
-void fillData(const ProgramBench &bench) {
-    struct Kind {
-        QString guide;
-        QString grid;
-    };
-    const Kind kinds[] = {{QStringLiteral("NetworkID"), QStringLiteral("Network")},
-                          {QStringLiteral("ChannelID_q7r"), QStringLiteral("Channels9000")},
-                          {QStringLiteral("GroupID_q7r"), QStringLiteral("ScanGroup")},
-                          {QStringLiteral("SignalSystemId_q7r"), QStringLiteral("Selcall9000")},
-                          {QStringLiteral("DTMFNetworkSigSystemID"), QStringLiteral("DTMF")},
-                          {QStringLiteral("T99NetworkID_q7r"), QStringLiteral("Type99")},
-                          {QStringLiteral("MDC1200SignallingSystemID"), QStringLiteral("MDC1200")}};
-    constexpr std::ptrdiff_t kKindsOfTiers[] = {3, 5, 7};
-    const QStringList tiers{QStringLiteral("Basic"), QStringLiteral("Standard"), QStringLiteral("Advanced")};
-    const auto count = kKindsOfTiers[tiers.indexOf(bench.component().GetCurrentTier())];
-    for (const Kind &kind : std::span(kinds).first(std::size_t(count))) {
-        qint32 record = bench.component().GetNumberOfRecords(kind.guide) + 1;
-        bool accepted = false;
-        bench.component().AddRecord(kind.guide, kind.grid, record, accepted);
-        QVERIFY2(accepted, qPrintable(kind.guide));
-    }
-    if (count > kKindsOfTiers[0])
-        bench.setValue(QStringLiteral("SignallingType"), 1, 1);
 }
 } // namespace
 
@@ -127,7 +99,7 @@ void tst_all_forms::everyFormOpensFilled() {
     ProgramBench bench(language);
     bench.window().resize(size);
     bench.chooseTier(tier);
-    fillData(bench);
+    bench.addRecords();
     const QStringList captions = formsOf(bench);
     for (const QString &caption : captions) {
         QVERIFY2(bench.openForm(caption), qPrintable(caption));
@@ -150,8 +122,8 @@ void tst_all_forms::everyCallUpOpensItsSequence() {
     mTranslation.gLanguage = 1;
     ProgramBench bench;
     bench.chooseTier(tier);
-    fillData(bench);
-    fillData(bench);
+    bench.addRecords();
+    bench.addRecords();
     QVERIFY(bench.openForm(QStringLiteral("Free Format Bursts")));
     WindowInput::click(bench.part<QPushButton>(QStringLiteral("fldPageNavigator1"), "cmdLast"));
     for (int callUp = 1; callUp <= 7; ++callUp) {
@@ -205,11 +177,9 @@ void tst_all_forms::lookAtForm(const ProgramBench &bench, const QString &caption
 }
 
 void tst_all_forms::lookAtField(const ProgramBench &bench, const HostControl &control, const QString &where) {
-    static const QStringList kValues{QStringLiteral("fldTextField"), QStringLiteral("fldComboField"),
-                                     QStringLiteral("fldCheckboxField"), QStringLiteral("fldIdTrackerField")};
     if (auto *grid = dynamic_cast<Igrid *>(control.object()))
         lookAtGrid(bench, *grid, where);
-    if (!kValues.contains(control.TypeName()))
+    if (!ProgramBench::isValue(control.TypeName()))
         return;
     Ifield &field = *control.object();
     if (field.Ifield_GetUIIDNotFound())

@@ -1,4 +1,5 @@
 #include "cls_help.h"
+#include "data_form.h"
 #include "frm_main.h"
 #include "help_browser.h"
 #include "help_commands.h"
@@ -18,6 +19,9 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
@@ -42,6 +46,12 @@ class HelpWindowTest : public QObject {
     static QString binFolder() { return qEnvironmentVariable("KX4600_BIN"); }
     static QWidget *smallWindow();
     static HelpViewer *viewer();
+    void askForHelpIn(DataForm &form);
+    // With F1 and Shift+F1 on the field that has the focus.
+    void askForHelp(QWidget &window, const QString &uiid);
+
+    int mSeen = 0;
+    QStringList mWrong;
 };
 
 QWidget *HelpWindowTest::smallWindow() {
@@ -166,31 +176,70 @@ void HelpWindowTest::viewerSearchesByKeyboard() {
     QVERIFY(!window.isVisible());
 }
 
+// Three fields of each page, every column of the grids, and three fields of each sub-form.
 void HelpWindowTest::keysLeadToTheFieldOnEachForm() {
-    const ProgramBench bench(QStringLiteral("Advanced"));
-    int seen = 0;
+    ProgramBench bench(QStringLiteral("Advanced"));
+    bench.addRecords();
     for (const ProgramBench::Form &form : bench.forms()) {
         bench.open(form);
-        std::vector<Ifield *> fields = bench.usableFields();
-        fields.resize(std::min<std::size_t>(fields.size(), 3));
-        for (Ifield *field : fields) {
-            WindowInput::activate(bench.window());
-            field->Ifield_SetFocus();
-            auto *widget = dynamic_cast<QWidget *>(field);
-            if (!widget->isAncestorOf(QApplication::focusWidget()))
-                continue; // on a page that does not show
-            WindowInput::key(Qt::Key_F1, Qt::ShiftModifier);
-            QVERIFY2(smallWindow() != nullptr, qPrintable(field->Ifield_GetUIID()));
-            QWhatsThis::hideText();
-            bench.window().windowHandle()->requestActivate(); // the small window took it along
-            WindowInput::activate(bench.window());
-            WindowInput::key(Qt::Key_F1);
-            QVERIFY2(viewer() != nullptr, qPrintable(field->Ifield_GetUIID()));
-            QCOMPARE(viewer()->Place(), form.typeName + QStringLiteral(".html#") + field->Ifield_GetUIID());
-            ++seen;
+        auto *tabs = bench.form()->findChild<QTabWidget *>(QStringLiteral("SSTab1"));
+        const int before = mSeen;
+        for (int page = 0; page < (tabs == nullptr ? 1 : tabs->count()); ++page) {
+            if (tabs != nullptr)
+                tabs->setCurrentIndex(page);
+            askForHelpIn(*bench.form());
+        }
+        QVERIFY2(mSeen > before, qPrintable(form.caption));
+    }
+    QVERIFY(bench.openForm(QStringLiteral("Free Format Bursts")));
+    const int before = mSeen;
+    QTimer waits;
+    connect(&waits, &QTimer::timeout, this, [&] {
+        QWidget *const window = QApplication::activeModalWidget();
+        if (window == nullptr || window != QApplication::activeWindow())
+            return;
+        waits.stop();
+        askForHelpIn(*window->findChild<DataForm *>());
+        window->close();
+    });
+    waits.start(10);
+    WindowInput::click(bench.part<QPushButton>(QStringLiteral("fldFreeFormatDetail1"), "cmdCallUp"));
+    QCOMPARE(mSeen, before + 3);
+    QVERIFY2(mWrong.isEmpty(), qPrintable(mWrong.join(u'\n')));
+    qInfo("%d fields and columns", mSeen);
+}
+
+void HelpWindowTest::askForHelpIn(DataForm &form) {
+    int fields = 0;
+    for (HostControl *control : form.Iusrfrm_Controls()) {
+        const auto *widget = dynamic_cast<QWidget *>(control->object());
+        const bool takesFocus = widget != nullptr && widget->isVisible() && control->Enabled();
+        auto *table = widget == nullptr ? nullptr : widget->findChild<QTableView *>();
+        const bool isValue = ProgramBench::isValue(control->TypeName());
+        if (!takesFocus || (table == nullptr && (!isValue || ++fields > 3)))
+            continue;
+        control->SetFocus();
+        for (int column = 0; column < (table == nullptr ? 1 : table->model()->columnCount()); ++column) {
+            if (table != nullptr)
+                table->setCurrentIndex(table->model()->index(0, column));
+            askForHelp(*form.window(), control->object()->Ifield_GetUIID());
         }
     }
-    QVERIFY2(seen >= 15, qPrintable(QString::number(seen)));
+}
+
+void HelpWindowTest::askForHelp(QWidget &window, const QString &uiid) {
+    WindowInput::activate(window);
+    WindowInput::key(Qt::Key_F1, Qt::ShiftModifier);
+    if (smallWindow() == nullptr)
+        mWrong << uiid + QStringLiteral(": Shift+F1 shows nothing");
+    QWhatsThis::hideText();
+    window.windowHandle()->requestActivate(); // the small window took it along
+    WindowInput::activate(window);
+    WindowInput::key(Qt::Key_F1);
+    const QString place = viewer() == nullptr ? QString() : viewer()->Place();
+    if (!place.endsWith(u'#' + uiid))
+        mWrong << uiid + QStringLiteral(": F1 leads to ") + place;
+    ++mSeen;
 }
 
 void HelpWindowTest::whatsThisModeEndsWithAClick() {

@@ -152,6 +152,12 @@ void MappingScriptTest::initialStates_data() {
     QTest::newRow("loop") << QStringList{QStringLiteral("a|b"), QStringLiteral("b|b")}
                           << QStringLiteral("The initial state file contains several references to 'b'") << true
                           << QStringLiteral("ba");
+    QTest::newRow("names itself") << QStringList{QStringLiteral("a|a")}
+                                  << QStringLiteral("The initial state file contains several references to 'a'") << true
+                                  << QStringLiteral("aa");
+    QTest::newRow("loop through another")
+        << QStringList{QStringLiteral("a|b"), QStringLiteral("b|a")}
+        << QStringLiteral("The initial state file contains several references to 'b'") << true << QStringLiteral("aba");
     QTest::newRow("missing") << QStringList{QStringLiteral("a|b")} << QStringLiteral("Initial State file b not found")
                              << false << QString();
     QTest::newRow("in quotes") << QStringList{QStringLiteral("a|\"b\""), QStringLiteral("b|")} << QString() << true

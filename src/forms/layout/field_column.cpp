@@ -15,12 +15,15 @@ constexpr double kLabelRoom = kLabelMargin + 30; // two pixels lest rounding bre
 constexpr qint32 kCaptionSpacing = 30;           // between broken captions of neighbouring rows
 constexpr double kComfortableWidth = 4800;
 constexpr double kWantedBox = 1700;
-constexpr double kListArrow = 500;    // what a combo keeps for its arrow and its borders
-constexpr double kFarthestBox = 4200; // an editing part further from its label is hard to follow
+constexpr double kListArrow = 500;     // what a combo keeps for its arrow and its borders
+constexpr double kFarthestBox = 4200;  // an editing part further from its label is hard to follow
+constexpr double kFarthestList = 5600; // unless a list would cut its items
 constexpr double kNarrowBox = 850;
+constexpr double kNarrowList = 1300; // shows "None" in every language
 constexpr Twips kCallUpWidth{1110};
 
 bool isCallUp(const ControlDefinition &control) { return control.typeName == u"fldSubFormCallUp"; }
+bool isIdTracker(const ControlDefinition &control) { return control.typeName == u"fldIdTrackerField"; }
 bool isCheckbox(const ControlDefinition &control) { return control.typeName == u"fldCheckboxField"; }
 } // namespace
 
@@ -63,14 +66,20 @@ double FieldColumn::line() const {
         const double factor = field.labelWidthFactor();
         if (factor == 0.0)
             continue;
-        const double wantedBox = std::max(kWantedBox, mText.widestItem(field).count + kListArrow);
-        const double box = isCheckbox(field) || factor == 1.0 ? 0 : wantedBox * factor / (1 - factor);
+        const double share = isCheckbox(field) || factor == 1.0 ? 0 : factor / (1 - factor);
+        const double list = (mText.widestItem(field).count + kListArrow) * share;
+        const double box = std::max(std::min(kWantedBox * share, kFarthestBox), std::min(list, kFarthestList));
         const double comfortable = kComfortableWidth * (isCheckbox(field) ? std::min(factor, 0.6) : factor);
         most = std::min(most, factor * widestWithFollowers(row));
-        wanted = std::max(
-            {wanted, std::min(box, kFarthestBox), comfortable, mText.width(mText.caption(field)).count + kLabelRoom});
+        wanted = std::max({wanted, box, comfortable, mText.width(mText.caption(field)).count + kLabelRoom});
     }
     return std::min(wanted, most);
+}
+
+// Below it the editing part is too narrow to read.
+double FieldColumn::leastBox(const ControlDefinition &field) const {
+    return isIdTracker(field) ? kNarrowList
+                              : std::clamp(mText.widestItem(field).count + kListArrow, kNarrowBox, kNarrowList);
 }
 
 double FieldColumn::widthWith(const FieldRow &row, double line) const {
@@ -83,8 +92,8 @@ double FieldColumn::widthWith(const FieldRow &row, double line) const {
     const double most = widestWithFollowers(row);
     const double caption = (mText.width(mText.caption(field)).count + kLabelRoom) / factor;
     const double onLine = line / factor;
-    const bool narrow = !isCheckbox(field) && onLine * (1 - factor) < kNarrowBox;
-    const double box = narrow ? std::min(most, kNarrowBox / (1 - factor)) : 0;
+    const bool narrow = !isCheckbox(field) && onLine * (1 - factor) < leastBox(field);
+    const double box = narrow ? std::min(most, leastBox(field) / (1 - factor)) : 0;
     return std::max({onLine, caption <= most ? caption : 0, box});
 }
 

@@ -24,6 +24,7 @@ class FieldColumn {
 
   private:
     [[nodiscard]] double line() const;
+    [[nodiscard]] double leastBox(const ControlDefinition &field) const;
     [[nodiscard]] double widthWith(const FieldRow &row, double line) const;
     [[nodiscard]] double widestWithFollowers(const FieldRow &row) const;
     [[nodiscard]] int captionLines(const FieldRow &row, Twips width) const;
