@@ -6,7 +6,7 @@ set -eu
 packages="g++ cmake ninja-build git python3
   qt6-base-dev qt6-serialport-dev qt6-svg-dev libqt6svg6 qt6-qpa-plugins qt6-translations-l10n libgl-dev libssl-dev fonts-dejavu-core fonts-wqy-microhei"
 if [ "${1:-build}" = test ]; then
-  packages="$packages clang-format clang-tidy ccache mold xvfb xdotool openbox dpkg-dev file gzip"
+  packages="$packages clang-format clang-tidy ccache mold xvfb xauth xdotool openbox dpkg-dev file gzip"
 fi
 
 missing=""
