@@ -8,7 +8,8 @@
 
 namespace {
 constexpr int kStartMs = 60000;
-constexpr int kLongestSessionMs = 2500;
+constexpr int kMostLines = 60; // that a session tells: one when it is ready, two an edit
+constexpr int kLongestPauseMs = 30;
 
 QString program(const char *name) { return qEnvironmentVariable("KX4600_BIN") + u'/' + QString::fromLatin1(name); }
 
@@ -62,10 +63,11 @@ class RecoveryCampaign : public QObject {
     void eachRestartRestoresExactlyTheAcceptedEdits();
 
   private:
-    void killAndRestore(unsigned seed, int lifetimeMs, Campaign::Tally &tally);
+    // The session is killed once it has told that many lines, and a pause later.
+    void killAndRestore(unsigned seed, int lines, int pauseMs, Campaign::Tally &tally);
 };
 
-void RecoveryCampaign::killAndRestore(unsigned seed, int lifetimeMs, Campaign::Tally &tally) {
+void RecoveryCampaign::killAndRestore(unsigned seed, int lines, int pauseMs, Campaign::Tally &tally) {
     const QTemporaryDir home;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const char *name : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME"})
@@ -73,11 +75,15 @@ void RecoveryCampaign::killAndRestore(unsigned seed, int lifetimeMs, Campaign::T
     QProcess victim;
     victim.setProcessEnvironment(environment);
     victim.start(program("kx4600session"), {QStringLiteral("edit"), QString::number(seed)});
-    QVERIFY(victim.waitForReadyRead(kStartMs));
-    QThread::msleep(unsigned(lifetimeMs));
+    QByteArray toldBefore;
+    while (toldBefore.count('\n') < lines) {
+        QVERIFY2(victim.waitForReadyRead(kStartMs), toldBefore.constData());
+        toldBefore += victim.readAllStandardOutput();
+    }
+    QThread::msleep(unsigned(pauseMs));
     victim.kill();
     QVERIFY(victim.waitForFinished());
-    const Session session(QString::fromUtf8(victim.readAllStandardOutput()));
+    const Session session(QString::fromUtf8(toldBefore + victim.readAllStandardOutput()));
     QVERIFY2(victim.exitStatus() == QProcess::CrashExit, "the session ended by itself");
 
     const QString restored = home.filePath(QStringLiteral("restored.k4p"));
@@ -109,7 +115,8 @@ void RecoveryCampaign::eachRestartRestoresExactlyTheAcceptedEdits() {
     Campaign::Tally tally;
     const int kills = Campaign::count(3, 50);
     for (int kill = 0; kill < kills; ++kill) {
-        killAndRestore(unsigned(kill), int(Campaign::below(random, kLongestSessionMs)), tally);
+        const int lines = 1 + int(Campaign::below(random, kMostLines));
+        killAndRestore(unsigned(kill), lines, int(Campaign::below(random, kLongestPauseMs)), tally);
         if (QTest::currentTestFailed())
             return;
     }

@@ -108,7 +108,7 @@ void SavesCampaign::killedSaveLeavesTheOldOrTheNewFile() {
     QVERIFY(shared != MAP_FAILED);
     auto &progress = *new (shared) Progress;
     Window reader(folder.path());
-    QVERIFY(reader.set(kLeast) && reader.save(path));
+    QVERIFY(reader.set(kLeast) && reader.save(path) && reader.save(path)); // the second one makes the backup
     progress.saved = kLeast;
     Campaign::Random random(200);
     Campaign::Tally tally;

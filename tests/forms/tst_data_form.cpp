@@ -171,7 +171,7 @@ class DataFormTest : public QObject {
         Bench bench;
         bench.component.when(u"GetProgramAsAvailable"_s).answers(true);
         bench.component.when(u"GetVersionLevel"_s).answers(1);
-        const FormCatalogue catalogue;
+        FormCatalogue catalogue;
         for (const PlacedControl &placed : catalogue.form(u"usrctlPTT"_s).placedControls()) {
             if (placed.page == 0)
                 bench.component.when(u"GetFieldVersionLevel"_s, placed.control->id()).answers(2);
