@@ -24,7 +24,7 @@ GridMenu::GridMenu(GridSurface &grid, const FieldServices &services, GridClipboa
 QAction *GridMenu::addCommand(const char *name, const char *text, void (GridClipboard::*command)()) {
     QAction *action = mMenu->addAction(mServices.translation.NLSStr(QString::fromLatin1(text)));
     action->setObjectName(QString::fromLatin1(name));
-    connect(action, &QAction::triggered, this, [this, command] { (mClipboard.*command)(); });
+    connect(action, &QAction::triggered, this, [&clipboard = mClipboard, command] { (clipboard.*command)(); });
     return action;
 }
 

@@ -43,16 +43,17 @@ HelpWhatsThis::HelpWhatsThis(const ProcessValues &process, const FormHost &host,
 HelpWhatsThis::~HelpWhatsThis() = default;
 
 void HelpWhatsThis::ShowWhatsThisHelp(qint32 HelpContextID) try {
-    if (HelpContextID == 0)
-        return;
     QWidget *widget = QApplication::focusWidget();
     const Ifield *field = fieldAt(widget);
-    const QString text =
-        field != nullptr && mTexts.NumberOf(*field) == HelpContextID ? mTexts.Of(field->Ifield_GetUIID()) : QString();
+    const qint32 ofField = field == nullptr ? 0 : mTexts.NumberOf(*field);
+    const qint32 topic = HelpContextID == 0 ? ofField : HelpContextID; // a field without a number of its own
+    if (topic == 0)
+        return;
+    const QString text = topic == ofField ? mTexts.Of(field->Ifield_GetUIID()) : QString();
     if (text.isEmpty())
-        mShowTopic(HelpContextID);
+        mShowTopic(topic);
     else
-        show(widget->mapToGlobal(QPoint(0, widget->height())), text, HelpContextID, widget);
+        show(widget->mapToGlobal(QPoint(0, widget->height())), text, topic, widget);
 }
 ERROR_TAIL()
 

@@ -21,7 +21,7 @@ class HelpWhatsThis final : public QObject {
     ~HelpWhatsThis() override;
     Q_DISABLE_COPY_MOVE(HelpWhatsThis)
 
-    // The help of the field under the focus, if that is its number; else the topic in the help. Nothing for 0.
+    // The help of the field under the focus, if that is its number or the number is 0; else the topic in the help.
     void ShowWhatsThisHelp(qint32 HelpContextID);
     // The next click tells what is under it. Returns when the mode has ended. Nothing without a form.
     void StartWhatsThisMode();

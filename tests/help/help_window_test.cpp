@@ -189,7 +189,8 @@ void HelpWindowTest::keysLeadToTheFieldOnEachForm() {
                 tabs->setCurrentIndex(page);
             askForHelpIn(*bench.form());
         }
-        QVERIFY2(mSeen > before, qPrintable(form.caption));
+        // One form holds nothing but call-ups.
+        QVERIFY2(mSeen > before || form.typeName == u"usrctlFreeFormatKX4600", qPrintable(form.caption));
     }
     QVERIFY(bench.openForm(QStringLiteral("Free Format Bursts")));
     const int before = mSeen;
@@ -203,7 +204,7 @@ void HelpWindowTest::keysLeadToTheFieldOnEachForm() {
         window->close();
     });
     waits.start(10);
-    WindowInput::click(bench.part<QPushButton>(QStringLiteral("fldFreeFormatDetail1"), "cmdCallUp"));
+    WindowInput::click(*bench.form()->findChild<QPushButton *>(QStringLiteral("cmdCallUp")));
     QCOMPARE(mSeen, before + 3);
     QVERIFY2(mWrong.isEmpty(), qPrintable(mWrong.join(u'\n')));
     qInfo("%d fields and columns", mSeen);
@@ -214,13 +215,15 @@ void HelpWindowTest::askForHelpIn(DataForm &form) {
     for (HostControl *control : form.Iusrfrm_Controls()) {
         const auto *widget = dynamic_cast<QWidget *>(control->object());
         const bool takesFocus = widget != nullptr && widget->isVisible() && control->Enabled();
-        auto *table = widget == nullptr ? nullptr : widget->findChild<QTableView *>();
+        auto *table = control->TypeName() == u"fldGridField" ? widget->findChild<QTableView *>() : nullptr;
         const bool isValue = ProgramBench::isValue(control->TypeName());
         if (!takesFocus || (table == nullptr && (!isValue || ++fields > 3)))
             continue;
+        WindowInput::activate(*form.window());
         control->SetFocus();
-        for (int column = 0; column < (table == nullptr ? 1 : table->model()->columnCount()); ++column) {
-            if (table != nullptr)
+        const bool hasCells = table != nullptr && table->model()->rowCount() > 0;
+        for (int column = 0; column < (hasCells ? table->model()->columnCount() : 1); ++column) {
+            if (hasCells)
                 table->setCurrentIndex(table->model()->index(0, column));
             askForHelp(*form.window(), control->object()->Ifield_GetUIID());
         }
@@ -240,6 +243,8 @@ void HelpWindowTest::askForHelp(QWidget &window, const QString &uiid) {
     if (!place.endsWith(u'#' + uiid))
         mWrong << uiid + QStringLiteral(": F1 leads to ") + place;
     ++mSeen;
+    if (viewer() != nullptr)
+        viewer()->close();
 }
 
 void HelpWindowTest::whatsThisModeEndsWithAClick() {
