@@ -133,10 +133,7 @@ class Lint:
         with tempfile.NamedTemporaryFile("w", suffix=".cpp", dir=self.build, encoding="utf-8") as together:
             together.write("".join(parts))
             together.flush()
-            run = subprocess.run(
-                ["clang-tidy", "--quiet", f"--config-file={ROOT}/.clang-tidy", together.name, "--",
-                 *(word for flag in flags for word in flag.split(" ")), *folders],
-                capture_output=True, text=True, check=False)
+            run = tidied(together.name, [*(word for flag in flags for word in flag.split(" ")), *folders])
         suspects = suspects_of(run.stdout, together.name, parts) if run.returncode else set()
         for number, source in enumerate(batch):
             if number not in suspects:
@@ -144,13 +141,17 @@ class Lint:
         return max((self.check_one(batch[number]) for number in suspects), default=0)
 
     def check_one(self, source: Source) -> int:
-        run = subprocess.run(["clang-tidy", "-p", self.build, "--quiet", source.name], capture_output=True, text=True,
-                             check=False)
+        run = tidied(source.name, source.flags)
         if run.returncode == 0:
             self.remember(source)
         else:
             print(run.stdout, flush=True)
         return run.returncode
+
+
+def tidied(name: str, flags: list[str]) -> subprocess.CompletedProcess:
+    return subprocess.run(["clang-tidy", "--quiet", f"--config-file={ROOT}/.clang-tidy", name, "--", *flags],
+                          capture_output=True, text=True, check=False)
 
 
 def suspects_of(report: str, together: str, parts: list[str]) -> set[int]:
