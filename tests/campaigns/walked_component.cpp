@@ -81,11 +81,18 @@ void WalkedComponent::RepeatRecord(const QString &UIID, qint32 RecordNr, const Q
 }
 
 void WalkedComponent::DeleteRecord(const QString &UIID, qint32 RecordNr, bool &OK) {
-    const RecordAddress record = addressOf(UIID, RecordNr);
+    mDeletion = {UIID, addressOf(UIID, RecordNr)};
     TransformerComponent::DeleteRecord(UIID, RecordNr, OK);
     count(QStringLiteral("deletions"), OK);
     if (OK)
-        mModel.erase(state().findStructure(UIID)->index, record);
+        noteDeletion();
+    mDeletion = {};
+}
+
+void WalkedComponent::noteDeletion() {
+    if (!mDeletion.uiid.isEmpty())
+        mModel.erase(state().findStructure(mDeletion.uiid)->index, mDeletion.record);
+    mDeletion = {};
 }
 
 bool WalkedComponent::ImportRecordByPaste(const QString &GridID, const QString &UIIDList, QWidget *MainWindow,
@@ -115,6 +122,7 @@ void WalkedComponent::ChangeTier(const QString &TierKey) {
 
 void WalkedComponent::SaveForm(const QString &TierKey) {
     mTally.add(QStringLiteral("accepted forms"));
+    noteDeletion(); // of the last system: its form closes before the deletion returns
     mModel.commit();
     TransformerComponent::SaveForm(TierKey);
 }
