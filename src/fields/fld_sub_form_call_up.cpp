@@ -23,10 +23,12 @@ fldSubFormCallUp::fldSubFormCallUp(const FieldServices &services, const FieldPro
     reader.refuseUnknown();
     // All call-ups of a form may have the same caption; this tells them apart.
     button().setAccessibleDescription(services.translation.NLSStr(mRequest.SubFormDescription));
-    connect(&button(), &QPushButton::clicked, this, [this] { CallUp(QString()); });
+    connect(&button(), &QPushButton::clicked, this, &fldSubFormCallUp::cmdCallUp_Click);
     SetTabStop(true);
     SetControlSize(kDefinitionSize);
 }
+
+void fldSubFormCallUp::cmdCallUp_Click() { CallUp(QString()); }
 
 void fldSubFormCallUp::CallUp(const QString &firstControl) {
     // The control may be gone when the window has closed.

@@ -27,6 +27,8 @@ class fldSubFormCallUp final : public ButtonControl, public SubFormCallUp {
     TwipSize SetControlSize(const TwipSize &size) override;
 
   private:
+    void cmdCallUp_Click();
+
     SubFormOpener &mOpener;
     SubFormRequest mRequest;
 };

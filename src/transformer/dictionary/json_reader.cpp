@@ -55,7 +55,7 @@ qint32 JsonReader::integerOr(QLatin1StringView key, qint32 fallback) const {
 }
 
 bool JsonReader::flag(QLatin1StringView key) const {
-    QJsonValue found = mObject.value(key);
+    const QJsonValue found = mObject.value(key);
     if (found.isUndefined())
         return false;
     if (!found.isBool())
