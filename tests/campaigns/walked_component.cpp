@@ -81,18 +81,11 @@ void WalkedComponent::RepeatRecord(const QString &UIID, qint32 RecordNr, const Q
 }
 
 void WalkedComponent::DeleteRecord(const QString &UIID, qint32 RecordNr, bool &OK) {
-    mDeletion = {UIID, addressOf(UIID, RecordNr)};
+    const RecordAddress record = addressOf(UIID, RecordNr);
     TransformerComponent::DeleteRecord(UIID, RecordNr, OK);
     count(QStringLiteral("deletions"), OK);
     if (OK)
-        noteDeletion();
-    mDeletion = {};
-}
-
-void WalkedComponent::noteDeletion() {
-    if (!mDeletion.uiid.isEmpty())
-        mModel.erase(state().findStructure(mDeletion.uiid)->index, mDeletion.record);
-    mDeletion = {};
+        mModel.erase(state().findStructure(UIID)->index, record);
 }
 
 bool WalkedComponent::ImportRecordByPaste(const QString &GridID, const QString &UIIDList, QWidget *MainWindow,
@@ -122,7 +115,6 @@ void WalkedComponent::ChangeTier(const QString &TierKey) {
 
 void WalkedComponent::SaveForm(const QString &TierKey) {
     mTally.add(QStringLiteral("accepted forms"));
-    noteDeletion(); // of the last system: its form closes before the deletion returns
     mModel.commit();
     TransformerComponent::SaveForm(TierKey);
 }

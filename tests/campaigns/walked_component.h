@@ -41,13 +41,7 @@ class WalkedComponent final : public TransformerComponent, private ComponentList
         QString value;
         bool noted = false;
     };
-    // A deletion under way; uiid "": none, or already in the model.
-    struct Deletion {
-        QString uiid;
-        RecordAddress record;
-    };
     void noteSettings();
-    void noteDeletion();
     void startOver();
     void count(const QString &kind, bool accepted);
     void inserted(const QString &uiid, RecordAddress record, const QString &kind, bool accepted);
@@ -71,6 +65,5 @@ class WalkedComponent final : public TransformerComponent, private ComponentList
     Campaign::Tally &mTally;
     PlainModel mModel;
     std::vector<Setting> mSettings;
-    Deletion mDeletion;
     QStringList mEchoes;
 };
